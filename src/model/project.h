@@ -1,7 +1,9 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
+#include "model/check_fault.h"
 #include "model/head_tables.h"
 #include "model/limits.h"
 #include "model/network_tables.h"
@@ -29,6 +31,8 @@ struct Project : PipeTables,
   Table<std::string, kLastLine> PipeLines;
 
   Table<Int16, kLastVelocityBucket> VelocityBuckets;  // pipes by whole m/s
+
+  std::vector<CheckFault> Faults;  // reported since the start of the last check, in order
 
   int JobReferenceCount = 0;
   Table<std::string, kLastJobReference> JobReferences;  // from 1, "KEY=text"

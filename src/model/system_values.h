@@ -84,6 +84,7 @@ namespace zeb {
 //   LimitListKind   1 to 3: what the limit list shows
 //   RestartState    0 first run, 2 after a restart
 //   LossModel       0 Hazen-Williams, 1 Darcy-Weisbach by table, 2 by formula
+//   DrySystem       1 when the pipes from DryFromPipe up hold no water until a head opens
 //   PumpCurveIndex  the supply row in force, 0 none
 #define ZEB_CALC_INTS(X)  \
   X(Iteration)            \
@@ -93,6 +94,7 @@ namespace zeb {
   X(CalcCancelled)        \
   X(LimitListKind)        \
   X(LossModel)            \
+  X(DrySystem)            \
   X(DryFromPipe)          \
   X(PumpCurveIndex)       \
   X(OffCurve)             \
@@ -194,6 +196,7 @@ namespace zeb {
   X(MinZLimit)               \
   X(MaxZLimit)
 
+// Reals of the calculation. VJ is the equivalent length of a mechanical joint, m.
 #define ZEB_CALC_REALS(X)  \
   X(SourceFlow)            \
   X(SourcePressure)        \
@@ -206,6 +209,7 @@ namespace zeb {
   X(FluidSG)               \
   X(FluidDensity)          \
   X(FluidViscosity)        \
+  X(VJ)                    \
   X(NodeFlowError)         \
   X(PipePdError)           \
   X(HeadPdError)           \

@@ -17,6 +17,8 @@ class Commands {
   virtual void CheckProject(CheckMode mode) = 0;
   // Writes the canonical line of a pipe's table rows.
   virtual void ComposePipeLine(int pipe) = 0;
+  // Back to the default pointer command, with which a click shows a pipe.
+  virtual void ViewCommandReset() = 0;
 };
 
 }  // namespace zeb

@@ -46,8 +46,7 @@ std::string FailureDescription(int number) {
   return "Application-defined or object-defined error";
 }
 
-RuntimeFailure::RuntimeFailure(int number)
-    : RuntimeFailure(number, FailureDescription(number)) {}
+RuntimeFailure::RuntimeFailure(int number) : RuntimeFailure(number, FailureDescription(number)) {}
 
 RuntimeFailure::RuntimeFailure(int number, std::string description)
     : number_(number), description_(std::move(description)) {}

@@ -25,20 +25,20 @@ namespace zeb {
 //   HeadCode            head code; -1 for a special discharge
 //   HeadX, HeadY        plan position, m
 #define ZEB_HEAD_REAL_ROWS(X) \
-  X(HeadArea)                 \
-  X(HeadFlow)                 \
-  X(HeadPressure)             \
-  X(HeadFlowChange)           \
-  X(HeadSourcePressure)       \
-  X(HeadHeight)               \
-  X(HeadK)                    \
-  X(HeadMinPress)             \
-  X(HeadOrifice)              \
-  X(HeadDensity)              \
-  X(HeadPipe)                 \
-  X(HeadStartPressure)        \
-  X(HeadCode)                 \
-  X(HeadX)                    \
+  X(HeadArea) \
+  X(HeadFlow) \
+  X(HeadPressure) \
+  X(HeadFlowChange) \
+  X(HeadSourcePressure) \
+  X(HeadHeight) \
+  X(HeadK) \
+  X(HeadMinPress) \
+  X(HeadOrifice) \
+  X(HeadDensity) \
+  X(HeadPipe) \
+  X(HeadStartPressure) \
+  X(HeadCode) \
+  X(HeadX) \
   X(HeadY)
 
 struct HeadTables {

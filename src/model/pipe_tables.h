@@ -29,27 +29,27 @@ namespace zeb {
 //   PipeABFlow, PipeABPress, PipeABArea  an added building: L/min, bar, m2
 //   PipeDirection       degrees clockwise from north; 999 up, -999 down
 #define ZEB_PIPE_REAL_ROWS(X) \
-  X(PipeStartPressure)        \
-  X(PipeFlow)                 \
-  X(PipeDrop)                 \
-  X(PipeX)                    \
-  X(PipeY)                    \
-  X(PipeZ)                    \
-  X(PipeLength)               \
-  X(PipeRise)                 \
-  X(PipeEqLength)             \
-  X(PipeEndPressure)          \
-  X(PipeSlope)                \
-  X(PipeLengthIn)             \
-  X(PipeHydrant)              \
-  X(PipeVelocity)             \
-  X(PipeOrifice)              \
-  X(PipePressDrop)            \
-  X(PipeAddLength)            \
-  X(PipeOrificeDrop)          \
-  X(PipeABFlow)               \
-  X(PipeABPress)              \
-  X(PipeABArea)               \
+  X(PipeStartPressure) \
+  X(PipeFlow) \
+  X(PipeDrop) \
+  X(PipeX) \
+  X(PipeY) \
+  X(PipeZ) \
+  X(PipeLength) \
+  X(PipeRise) \
+  X(PipeEqLength) \
+  X(PipeEndPressure) \
+  X(PipeSlope) \
+  X(PipeLengthIn) \
+  X(PipeHydrant) \
+  X(PipeVelocity) \
+  X(PipeOrifice) \
+  X(PipePressDrop) \
+  X(PipeAddLength) \
+  X(PipeOrificeDrop) \
+  X(PipeABFlow) \
+  X(PipeABPress) \
+  X(PipeABArea) \
   X(PipeDirection)
 
 //   PipeMark            -6666 after reading; the row of the size optimiser while it works
@@ -70,35 +70,35 @@ namespace zeb {
 //   PipeSizeIndexAsRead, PipeSizeAsRead  size before automatic sizing
 //   PipeUnsized         1 for a pipe entered with size 0
 #define ZEB_PIPE_INT_ROWS(X) \
-  X(PipeMark)                \
-  X(PipeUpstream)            \
-  X(PipeSizeIndex)           \
-  X(PipeSize)                \
-  X(PipeVJ)                  \
-  X(PipeHead)                \
-  X(PipeType)                \
-  X(PipeValve)               \
-  X(PipeElbows)              \
-  X(PipeTees)                \
-  X(PipeStartNode)           \
-  X(PipeEndNode)             \
-  X(PipeLoopClose)           \
-  X(PipeError)               \
-  X(PipeLine)                \
-  X(PipePrevious)            \
-  X(PipeSmallUp)             \
-  X(PipeAE)                  \
-  X(PipeAT)                  \
-  X(PipeSelected)            \
-  X(PipeSizeIndexAsRead)     \
-  X(PipeSizeAsRead)          \
+  X(PipeMark) \
+  X(PipeUpstream) \
+  X(PipeSizeIndex) \
+  X(PipeSize) \
+  X(PipeVJ) \
+  X(PipeHead) \
+  X(PipeType) \
+  X(PipeValve) \
+  X(PipeElbows) \
+  X(PipeTees) \
+  X(PipeStartNode) \
+  X(PipeEndNode) \
+  X(PipeLoopClose) \
+  X(PipeError) \
+  X(PipeLine) \
+  X(PipePrevious) \
+  X(PipeSmallUp) \
+  X(PipeAE) \
+  X(PipeAT) \
+  X(PipeSelected) \
+  X(PipeSizeIndexAsRead) \
+  X(PipeSizeAsRead) \
   X(PipeUnsized)
 
 // Picture coordinates of the pipe's two ends, rewritten by each redraw.
 #define ZEB_PIPE_COORD_ROWS(X) \
-  X(PipeScreenX1)              \
-  X(PipeScreenY1)              \
-  X(PipeScreenX2)              \
+  X(PipeScreenX1) \
+  X(PipeScreenY1) \
+  X(PipeScreenX2) \
   X(PipeScreenY2)
 
 struct PipeTables {

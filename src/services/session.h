@@ -21,10 +21,7 @@ struct Session {
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
   explicit Session(const Platform& platform_in)
-      : platform(platform_in),
-        settings(platform.files),
-        authorities(platform),
-        log(platform) {}
+      : platform(platform_in), settings(platform.files), authorities(platform), log(platform) {}
 
   Platform platform;
   Project project;
@@ -38,8 +35,8 @@ struct Session {
   bool AutoSave = true;         // every fifth change is saved
   bool VerboseLogging = false;  // trapped failures go to the error log
 
-  std::string CommandFile;     // the project named on the command line
-  std::string Identifier;      // this installation's, for the header of new projects
+  std::string CommandFile;  // the project named on the command line
+  std::string Identifier;   // this installation's, for the header of new projects
   std::string InstallationName = "ZEB";
   std::array<std::string, 4> SessionTexts;  // the first line of the session file
 

@@ -22,8 +22,16 @@ int FailureOf(const std::function<void()>& action) {
 }
 
 TEST(Int16Test, RefusesWhatDoesNotFit) {
-  EXPECT_EQ(FailureOf([] { Int16 value = 32767; ++value; }), 6);
-  EXPECT_EQ(FailureOf([] { Int16 value = -32768; value -= 1; }), 6);
+  EXPECT_EQ(FailureOf([] {
+              Int16 value = 32767;
+              ++value;
+            }),
+            6);
+  EXPECT_EQ(FailureOf([] {
+              Int16 value = -32768;
+              value -= 1;
+            }),
+            6);
   EXPECT_EQ(FailureOf([] { [[maybe_unused]] const Int16 value = 1LL << 40U; }), 6);
   Int16 value = 32766;
   ++value;

@@ -103,10 +103,24 @@ std::vector<std::string> GridLines(int pipes, int loops) {
 }
 
 std::string ProjectFile(const std::vector<std::string>& pipe_lines) {
-  static constexpr std::array<const char*, 18> kItems{
-      "Made-up network", "Plain Town", "1",   "---", "EN 12845 Rules", "---",
-      "Water",           "65",         "STD_PIPE.PDT", "None", "Most Unfavourable", "1",
-      "OH3",             "5.00",       "100", "---", "---",            "---"};
+  static constexpr std::array<const char*, 18> kItems{"Made-up network",
+                                                      "Plain Town",
+                                                      "1",
+                                                      "---",
+                                                      "EN 12845 Rules",
+                                                      "---",
+                                                      "Water",
+                                                      "65",
+                                                      "STD_PIPE.PDT",
+                                                      "None",
+                                                      "Most Unfavourable",
+                                                      "1",
+                                                      "OH3",
+                                                      "5.00",
+                                                      "100",
+                                                      "---",
+                                                      "---",
+                                                      "---"};
   std::string text = "TEST,01/01/2026 12:00:00,00100000000,3\r\nuser,computer\r\n\r\n\r\n";
   for (const char* item : kItems) text.append(item).append("\r\n");
   for (const std::string& line : pipe_lines) text.append(line).append("\r\n");

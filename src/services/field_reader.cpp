@@ -40,6 +40,11 @@ std::string FieldReader::LastText() {
   return {};
 }
 
+std::string FieldReader::Field() {
+  at_ = SkipBlanks(at_);
+  return TakeField();
+}
+
 float FieldReader::Single() {
   const double value = Number();
   if (std::abs(value) > FLT_MAX) throw RuntimeFailure(failure::kOverflow);

@@ -17,12 +17,17 @@ class FieldReader {
 
   // Nothing but blanks and line ends is left.
   [[nodiscard]] bool AtEnd() const;
+  // Another line is left, be it an empty one.
+  [[nodiscard]] bool MoreLines() const { return at_ < bytes_.size(); }
 
   // The next field without the blanks around it; line ends before it are passed over.
   [[nodiscard]] std::string Text();
   // The same for the last text of a record, which may be left out: nothing before the line end is
   // an empty text, unless the next line, having no comma, can only be this text.
   [[nodiscard]] std::string LastText();
+  // The next field of a line whose fields may be empty, the last one too: a line end is passed over
+  // only when it closed the field before.
+  [[nodiscard]] std::string Field();
   // A number; an empty field is 0. Fails with a type mismatch, and with overflow beyond the width.
   [[nodiscard]] float Single();
   [[nodiscard]] Int16 Integer();

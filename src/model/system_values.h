@@ -86,6 +86,7 @@ namespace zeb {
 //   LossModel       0 Hazen-Williams, 1 Darcy-Weisbach by table, 2 by formula
 //   DrySystem       1 when the pipes from DryFromPipe up hold no water until a head opens
 //   PumpCurveIndex  the supply row in force, 0 none
+//   HeadDensityEdited  1 when a head's density was edited on the drawing since the last calculate
 #define ZEB_CALC_INTS(X) \
   X(Iteration) \
   X(RestartState) \
@@ -123,6 +124,7 @@ namespace zeb {
   X(FurthestNode) \
   X(NearestNode) \
   X(CalcSource) \
+  X(HeadDensityEdited) \
   X(PartSave)
 
 // Reals that a check clears at its start.

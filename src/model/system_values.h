@@ -69,6 +69,14 @@ namespace zeb {
   X(LastSessionNumber)
 
 // Integers of the view and the pointer.
+//   ViewMode         1 plan, 2 front, 3 side, 4 to 7 isometric; 8 plan while a box is awaited
+//   ZoomState        0 no zoom, 1 box awaited, 2 box being dragged, 3 zoomed
+//   ZoomKept         1 once a box is finished: isometrics keep the zoom
+//   HeadBoxState     1 and 2 as ZoomState, for the box that picks operating heads
+//   PanLocked        1 from a zoom command to the next redraw
+//   PickedPipe       found by the last pick, 0 none; a head slot while heads are picked
+//   HighlightedPipe  the pipe shown green, 0 none
+//   MarkedNode       a pipe slot whose start node (+) or end node (-) is printed on top
 #define ZEB_VIEW_INTS(X) \
   X(ViewMode) \
   X(CommandMode) \
@@ -78,7 +86,40 @@ namespace zeb {
   X(DisplayItem) \
   X(PanLocked) \
   X(PickedPipe) \
+  X(HighlightedPipe) \
+  X(ZoomKept) \
+  X(HeadBoxState) \
   X(MarkedNode)
+
+// Reals of the view. The zoom box is in picture units while it is dragged, then in m, with 1 the
+// lower value.
+//   ZoomZ1, ZoomZ2            heights that belong to the zoom, m
+//   ViewOriginX, ViewOriginY  the point at the lower left of the last plan drawn, m
+//   ViewScaleX, ViewScaleY    picture units per m in the last plan drawn
+//   PicLogWidth ...           the picture's logical size, and its place and size in the window
+//   HeadBoxX1 ...             the box that picks operating heads, in picture units
+#define ZEB_VIEW_REALS(X) \
+  X(ViewMargin) \
+  X(ViewOriginX) \
+  X(ViewOriginY) \
+  X(ViewScaleX) \
+  X(ViewScaleY) \
+  X(ZoomX1) \
+  X(ZoomY1) \
+  X(ZoomX2) \
+  X(ZoomY2) \
+  X(ZoomZ1) \
+  X(ZoomZ2) \
+  X(PicLogWidth) \
+  X(PicLogHeight) \
+  X(PicWidth) \
+  X(PicHeight) \
+  X(PicLeft) \
+  X(PicTop) \
+  X(HeadBoxX1) \
+  X(HeadBoxY1) \
+  X(HeadBoxX2) \
+  X(HeadBoxY2)
 
 // Integers of the calculation.
 //   LimitListKind   1 to 3: what the limit list shows
@@ -265,6 +306,7 @@ namespace zeb {
   X(ViewName) \
   X(ViewTitle) \
   X(ViewHint) \
+  X(PipeHint) \
   X(MrNodeText) \
   X(ReportComment) \
   X(CalcSummary) \
@@ -281,6 +323,7 @@ struct SystemValues {
   ZEB_CHECK_REALS(ZEB_REAL_VALUE)
   ZEB_RESULT_REALS(ZEB_REAL_VALUE)
   ZEB_PROJECT_REALS(ZEB_REAL_VALUE)
+  ZEB_VIEW_REALS(ZEB_REAL_VALUE)
   ZEB_CALC_REALS(ZEB_REAL_VALUE)
   ZEB_TEXTS(ZEB_TEXT_VALUE)
 #undef ZEB_INT_VALUE
@@ -312,6 +355,7 @@ void ForEachSystemValue(Values& values, Visit visit) {
   ZEB_CHECK_REALS(ZEB_VISIT)
   ZEB_RESULT_REALS(ZEB_VISIT)
   ZEB_PROJECT_REALS(ZEB_VISIT)
+  ZEB_VIEW_REALS(ZEB_VISIT)
   ZEB_CALC_REALS(ZEB_VISIT)
   ZEB_TEXTS(ZEB_VISIT)
 #undef ZEB_VISIT

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/form.h"
 
@@ -38,6 +39,9 @@ enum class Feature {
   kReport,
 };
 
+// The pointer's shape over the picture.
+enum class PicturePointer { kDefault, kArrow, kCross };
+
 inline constexpr std::string_view kPictureSaved = "disk_save";
 inline constexpr std::string_view kPictureUnsaved = "disk_save_BW";
 
@@ -54,10 +58,15 @@ class Shell {
   virtual void SetPanelPicture(Panel panel, std::string_view picture) = 0;
   virtual void SetTitle(const std::string& title) = 0;
   virtual void SetBusyPointer(bool busy) = 0;
+  virtual void SetPicturePointer(PicturePointer shape) = 0;
   virtual void Enable(Feature feature, bool enabled) = 0;
   virtual void ClearPicture() = 0;
   // Redraws the network in the current view.
   virtual void Redraw() = 0;
+  // The eight arrows on the edges and corners of the picture.
+  virtual void ShowPanArrows(bool shown) = 0;
+  // Shows a menu at the pointer, with a tick at one entry. The entry picked, from 0; -1 for none.
+  virtual int ShowPopup(const std::vector<std::string>& entries, int ticked) = 0;
   virtual void Beep() = 0;
   // Lets waiting events run, without starting a second command.
   virtual void Yield() = 0;
@@ -68,6 +77,10 @@ class Shell {
   // Shows a form beside the running command; Close takes it away.
   virtual void Open(Form& form) = 0;
   virtual void Close(Form& form) = 0;
+  // Closes the open form of that name, if there is one, as its user would.
+  virtual void CloseNamed(std::string_view name) = 0;
+  // Shows the present texts of an open form.
+  virtual void Refresh(Form& form) = 0;
 };
 
 }  // namespace zeb

@@ -24,6 +24,8 @@ class FileSystem {
   [[nodiscard]] virtual DateTime FileTime(const std::string& path) = 0;
   // Names (without folder) of the files in a folder, sorted; empty if there is no such folder.
   [[nodiscard]] virtual std::vector<std::string> FileNames(const std::string& folder) = 0;
+  // Likewise the names of the folders in a folder.
+  [[nodiscard]] virtual std::vector<std::string> FolderNames(const std::string& folder) = 0;
   // The path with links followed, or `path` itself when it does not exist.
   [[nodiscard]] virtual std::string ResolveLinks(const std::string& path) = 0;
 

@@ -9,8 +9,9 @@
 namespace zeb {
 
 // A file of [section] and key=value lines. Section and key names compare without regard to case;
-// lines it does not know are kept. Failures are raised as RuntimeFailure with the description
-// "CIniFile component failure" and the reason.
+// lines it does not know are kept; a change is written at once and as a whole. Blanks at the ends
+// of a value survive, line breaks in it become blanks. A missing file name, file, section or key
+// name raises a ComponentFailure, the file itself those of the file system.
 class CIniFile {
  public:
   explicit CIniFile(FileSystem& files) : files_(files) {}
@@ -19,6 +20,7 @@ class CIniFile {
   void Init(const std::string& path);
   [[nodiscard]] const std::string& FileName() const { return path_; }
 
+  [[nodiscard]] bool HasKey(const std::string& section, const std::string& key);
   [[nodiscard]] std::string GetStringValue(const std::string& section, const std::string& key,
                                            const std::string& default_value);
   [[nodiscard]] double GetNumericValue(const std::string& section, const std::string& key,

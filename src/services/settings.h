@@ -1,9 +1,9 @@
 #pragma once
 
-#include <optional>
 #include <string>
 
 #include "platform/file_system.h"
+#include "services/settings_keys.h"
 
 namespace zeb {
 
@@ -17,7 +17,10 @@ class Settings {
   // The folder of zeb.ini and of the per-program store, and the folder of ZEB_config.ini.
   void Locate(const std::string& user_data_folder, const std::string& program_folder);
 
-  // zeb.ini.
+  // zeb.ini. A key that is absent answers with the default.
+  [[nodiscard]] std::string GetIniValue(const SettingKey& key);
+  void SetIniValue(const SettingKey& key, const std::string& value);
+  [[nodiscard]] bool HasIniValue(const SettingKey& key);
   [[nodiscard]] std::string GetIniValue(const std::string& section, const std::string& key,
                                         const std::string& default_value);
   void SetIniValue(const std::string& section, const std::string& key, const std::string& value);
@@ -29,10 +32,16 @@ class Settings {
   void SaveSetting(const std::string& section, const std::string& key, const std::string& value);
 
   // ZEB_config.ini, read only.
+  [[nodiscard]] std::string GetConfigValue(const SettingKey& key);
   [[nodiscard]] std::string GetConfigValue(const std::string& section, const std::string& key,
                                            const std::string& default_value);
 
  private:
+  [[nodiscard]] std::string Read(const std::string& path, const std::string& section,
+                                 const std::string& key, const std::string& default_value);
+  void Write(const std::string& path, const std::string& section, const std::string& key,
+             const std::string& value);
+
   FileSystem& files_;
   std::string user_ini_;
   std::string program_store_;

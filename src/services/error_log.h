@@ -27,6 +27,8 @@ class ErrorLog {
   void LogError(const Entry& entry);
 
  private:
+  void Append(const Entry& entry);
+
   const Platform& platform_;
   std::string folder_;
   bool session_line_written_ = false;

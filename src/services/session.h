@@ -21,7 +21,10 @@ struct Session {
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
   explicit Session(const Platform& platform_in)
-      : platform(platform_in), settings(platform.files), authorities(platform), log(platform) {}
+      : platform(platform_in),
+        settings(platform.files),
+        authorities(platform, settings),
+        log(platform) {}
 
   Platform platform;
   Project project;

@@ -1,10 +1,9 @@
 #include "services/field_reader.h"
 
 #include <algorithm>
-#include <cfloat>
-#include <cmath>
 
 #include "model/failure.h"
+#include "model/real_arithmetic.h"
 #include "services/number_text.h"
 
 namespace zeb {
@@ -45,11 +44,7 @@ std::string FieldReader::Field() {
   return TakeField();
 }
 
-float FieldReader::Single() {
-  const double value = Number();
-  if (std::abs(value) > FLT_MAX) throw RuntimeFailure(failure::kOverflow);
-  return static_cast<float>(value);
-}
+float FieldReader::Single() { return RoundToSingle(Number()); }
 
 Int16 FieldReader::Integer() { return RoundToInt16(Number()); }
 

@@ -1,0 +1,467 @@
+#include "project/pipe_data_reader.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "project/fault_report.h"
+#include "services/text.h"
+#include "support/small_pipe_data.h"
+#include "support/test_session.h"
+
+namespace zeb {
+namespace {
+
+using test::SmallPipeData;
+using test::TestSession;
+
+constexpr const char* kDefaultNote = "Refer to listing of file or the user manual";
+
+struct PipeDataReader : testing::Test, TestSession {
+  PipeDataReader() {
+    session.project.PipeDataFile = "TEST.PDT";
+    session.project.RuleType = kRulesGeneral;
+    shell.OnForm<WarningForm>("ZEBF04", [this](WarningForm& form) {
+      captions.push_back(form.Caption);
+      stop_at_fault ? form.Canbut_Click() : form.cbut_Click();
+    });
+  }
+
+  void Read(const std::string& bytes, CheckMode mode = CheckMode::kKeepLines) {
+    project.PipeDataFile = "TEST.PDT";
+    files.Put(session.folders.PdtFolder + "/TEST.PDT", bytes);
+    ReadPipeData(session, mode);
+  }
+
+  Project& project = session.project;
+  std::vector<std::string> captions;
+  bool stop_at_fault = false;
+};
+
+struct FaultCase {
+  int line;
+  const char* text;
+  CheckFault fault;
+};
+
+// Each differs from the faultless file by one line.
+const std::vector<FaultCase>& FaultCases() {
+  static const std::vector<FaultCase> cases = {
+      {2,
+       "7,120,1.000,0.0460,1,MED,Steel medium",
+       {21, "Pipe type 1 of 2 = Steel medium",
+        "[Error 21] Sequence number is 7 and not the correct number of 1",
+        "Perhaps mistyped or one or more commas missed out in a previous line or this line is "
+        "just in the wrong place.",
+        kDefaultNote, ""}},
+      {3,
+       "2,150.5,1.330,0.0015,2,CU,Copper tube",
+       {22, "Pipe type 2 of 2 = Copper tube", "[Error 22] Hazen Williams 'C' factor is 150.5",
+        "This number is usually in the range of 90 to 150 but the entered value will be used in "
+        "the calculations if this pipe type is given in your current project.",
+        kDefaultNote, ""}},
+      {2,
+       "1,120,1.601,0.0460,1,MED,Steel medium",
+       {23, "Pipe type 1 of 2 = Steel medium",
+        "[Error 23] Correction factor for Hazen Williams 'C' factor of 120 is 1.601",
+        "This number is usually in the range of 0.7 to 1.5 but the entered value will be used in "
+        "the calculations if this pipe type is given in your current project.",
+        "The LPC Rules specify the following correction factors :-\r\n\r\n"
+        " HW 'C' = 100 Factor = 0.714  HW 'C' = 110 Factor = 0.850\r\n"
+        " HW 'C' = 120 Factor = 1.000  HW 'C' = 130 Factor = 1.160\r\n"
+        " HW 'C' = 140 Factor = 1.330  HW 'C' = 150 Factor = 1.490\r\n",
+        ""}},
+      {2,
+       "1,120,1.000,1,1,MED,Steel medium",
+       {24, "Pipe type 1 of 2 = Steel medium", "[Error 24] Roughness =  1.00000 mm",
+        "It must be in the range of 0.0001 to 0.99 mm",
+        "It has been changed to 0.046 to permit you to proceed.", ""}},
+      {2,
+       "1,120,1.000,0.0460,4,MED,Steel medium",
+       {24, "Pipe type 1 of 2 = Steel medium", "[Error 24] Nominal sizes line = 4",
+        "It must be 1, 2 or 3 to suit the corresponding list of nominal pipe sizes to match the "
+        "actual internal pipe diameters for this pipe type. ",
+        "It has been changed to 1 to permit you to proceed.", ""}},
+      {3,
+       "2,140,1.330,0.0015,2,COPP,Copper tube",
+       {25, "Pipe type 2 of 2 = Copper tube", "[Error 25] The abbreviated reference is COPP",
+        " It can only be 2 or 3 characters long to fit the column on the printout but the above "
+        "ref can be retained as required.",
+        kDefaultNote, ""}},
+      {6,
+       "32,63,62",
+       {26, "Nominal pipe sizes line number 3 of 3",
+        "[Error 26] The size of 62 is smaller than the previous size of 63 mm",
+        "The list must be in ascending order to match the table of equivalent lengths further in "
+        "this data file.",
+        kDefaultNote, ""}},
+      {8,
+       "26.20,70.3,0.00",
+       {27, "Pipe type 2 of 2 = Copper tube",
+        "[Error 27] Actual internal diameter (or bore) = 70.3 mm",
+        "This does not appear to match the corresponding nominal diameter of 54 mm",
+        "Perhaps mistyped or in the wrong position in the line but this value will be used in the "
+        "calculations for your current project if not changed.",
+        ""}},
+      {10,
+       "TEE,Equal tee",
+       {28, "Valve type 2 of 2 = TEE",
+        "[Error 28] This should be 2 characters long to fit the column on the printout",
+        "But the above reference can be retained if necessary.", kDefaultNote, ""}},
+      {11,
+       "0.77,-0.5,3.00",
+       {29, "Valve or Fitting type 1 of 2 = Elbow",
+        "[Error 29] Equivalent length =-0.5 m for 50 mm in the LPC Rules",
+        "It should be in the range of 0 to 200 m but this value will be used in the calculations "
+        "if not changed.",
+        kDefaultNote, ""}},
+      {14,
+       "5,10,200.5",
+       {29, "Valve or Fitting type 2 of 2 = Tee\r\n\r\n",
+        "[Error 29] Equivalent length = 200.5 ft for 100 mm in the NFPA / FM Rules",
+        "It should be in the range of 0 to 200 ft but this value will be used in the calculations "
+        "if not changed.",
+        kDefaultNote, ""}},
+  };
+  return cases;
+}
+
+void ExpectFault(const CheckFault& fault, const CheckFault& expected) {
+  EXPECT_EQ(fault.number, expected.number);
+  EXPECT_EQ(fault.location, expected.location);
+  EXPECT_EQ(fault.problem, expected.problem);
+  EXPECT_EQ(fault.reason, expected.reason);
+  EXPECT_EQ(fault.correction, expected.correction);
+}
+
+TEST_F(PipeDataReader, ReportsEachFaultInItsWords) {
+  for (const FaultCase& fault_case : FaultCases()) {
+    SCOPED_TRACE(fault_case.text);
+    project.Faults.clear();
+    project.PipeDataErrorCount = 4;
+    captions.clear();
+    Read(SmallPipeData().With(fault_case.line, fault_case.text));
+
+    ASSERT_EQ(project.Faults.size(), 1U);
+    ExpectFault(project.Faults[0], fault_case.fault);
+    EXPECT_EQ(project.ErrorCorrection, fault_case.fault.correction);
+    EXPECT_EQ(captions,
+              std::vector<std::string>{"ZEB Warning No: 5 in Pipe / Fittings Data File TEST.PDT"});
+    EXPECT_EQ(project.PipeSizeCount, 3);
+  }
+}
+
+TEST_F(PipeDataReader, TakesValuesOnTheLimitsAsGood) {
+  SmallPipeData data;
+  const std::map<int, const char*> lines = {
+      {2, "1,90,0.4,0.0001,3,MED,Steel medium"},
+      {3, "2,150,1.6,0.99,2,CU,Copper tube"},
+      {4, "25,-50,100"},
+      {5, "28,28,108"},
+      {7, "22.4,81.9,87.5"},
+      {8, "19.6,36.4,0"},
+      {11, "0,200,3"},
+  };
+  for (const auto& [line, text] : lines) data.Set(line, text);
+  Read(data.Text());
+  EXPECT_TRUE(project.Faults.empty()) << project.Faults.front().problem;
+  EXPECT_EQ(project.NominalSizes[0][2], -50);
+  EXPECT_EQ(project.PipeSizeCount, 3);
+}
+
+TEST_F(PipeDataReader, ReplacesOnlyRoughnessAndSizesLine) {
+  Read(SmallPipeData().With(2, "1,80,2,5,0,M,Steel medium"));
+  EXPECT_EQ(project.Faults.size(), 5U);
+  EXPECT_EQ(project.PipeDataErrorCount, 5);
+  EXPECT_EQ(project.TypeC[1], 80.0F);
+  EXPECT_EQ(project.TypeFittingFactor[1], 2.0F);
+  EXPECT_EQ(project.TypeRoughness[1], 0.046F);
+  EXPECT_EQ(project.TypeSizesLine[1], 1.0F);
+  EXPECT_EQ(project.PipeTypeRefs[1], "M");
+}
+
+TEST_F(PipeDataReader, EndsAtTheFaultWhereTheUserStops) {
+  project.PipeTypeCount = 9;
+  project.ValveCount = 8;
+  stop_at_fault = true;
+  Read(SmallPipeData().With(2, "1,80,2,5,0,M,Steel medium"));
+  EXPECT_EQ(captions.size(), 1U);
+  EXPECT_EQ(project.StopFlag, kStopCheck);
+  EXPECT_EQ(project.PipeTypeCount, 9);
+  EXPECT_EQ(project.PipeSizeCount, 0);
+  EXPECT_EQ(project.ValveCount, 8);
+}
+
+TEST_F(PipeDataReader, ShowsNoBoxInASilentCheck) {
+  stop_at_fault = true;
+  Read(SmallPipeData().With(10, "TEE,Equal tee"), CheckMode::kSilent);
+  EXPECT_TRUE(captions.empty());
+  EXPECT_EQ(project.Faults.size(), 1U);
+  EXPECT_EQ(project.ValveCount, 2);
+}
+
+TEST_F(PipeDataReader, PassesOverBoresWhenTheCommentsSaySo) {
+  project.PipeLines[18] = "see drawing -ep";
+  Read(SmallPipeData().With(8, "26.20,70.3,0.00"));
+  EXPECT_TRUE(project.Faults.empty());
+  EXPECT_EQ(project.PipeBores[2][2], 70.3F);
+}
+
+TEST_F(PipeDataReader, CountsOfZeroAreOne) {
+  Read("a,b\n0,0,0\n1,120,1,0.046,1,MED,Steel\n25\n25\n25\n27.3\nEL,Elbow\n0.77\n2\n");
+  EXPECT_TRUE(project.Faults.empty());
+  EXPECT_EQ(project.PipeTypeCount, 1);
+  EXPECT_EQ(project.PipeSizeCount, 1);
+  EXPECT_EQ(project.ValveCount, 1);
+  EXPECT_EQ(project.EqLengths[1][1], 0.77F);
+}
+
+// Lines of a value for each size.
+std::string Rows(int count, int sizes, const std::string& value) {
+  std::string text;
+  for (int i = 0; i < count; ++i) {
+    for (int size = 1; size <= sizes; ++size) text += (size == 1 ? "" : ",") + value;
+    text += "\r\n";
+  }
+  return text;
+}
+
+// A file that claims the counts and holds the others.
+std::string PipeDataOf(const std::string& counts, int types, int sizes, int valves) {
+  std::string text = "ZEB,12:00\r\n" + counts + "\r\n";
+  for (int type = 1; type <= types; ++type) {
+    text += std::to_string(type) + ",120,1,0.046,1,MED,Steel\r\n";
+  }
+  text += Rows(3, sizes, "25") + Rows(types, sizes, "27.3");
+  for (int valve = 0; valve < valves; ++valve) text += "EL,Elbow\r\n";
+  return text + Rows(valves, sizes, "1.5") + Rows(valves, sizes, "5");
+}
+
+TEST_F(PipeDataReader, HoldsAsManyRecordsAsItsTables) {
+  Read(PipeDataOf("50,30,20", 50, 30, 20));
+  EXPECT_TRUE(project.Faults.empty());
+  EXPECT_EQ(project.PipeBores[30][50], 27.3F);
+  EXPECT_EQ(project.EqLengthsNfpa[20][30], 5.0F);
+
+  for (const char* counts : {"51,30,20", "50,31,20", "50,30,21"}) {
+    SCOPED_TRACE(counts);
+    project.Faults.clear();
+    Read(PipeDataOf(counts, 50, 30, 20));
+    ASSERT_EQ(project.Faults.size(), 1U);
+    EXPECT_EQ(project.PipeTypeCount, 50);
+    EXPECT_EQ(project.PipeSizeCount, 30);
+    EXPECT_EQ(project.ValveCount, 20);
+  }
+  ExpectFault(project.Faults[0],
+              {20, "First line of file is incorrect",
+               "[Error 20] It should have 3 numbers separated by commas",
+               "1 = 50 Pipe Types  (Maximum = 30)\r\n2 = 30 Pipe Sizes  (Maximum = 20)\r\n"
+               "3 = 21 Valve Types (Maximum = 20)\r\n",
+               kDefaultNote, ""});
+}
+
+TEST_F(PipeDataReader, LineBreaksBetweenFieldsCarryNoMeaning) {
+  const std::string text = SmallPipeData().Text();
+  const std::vector<std::pair<std::string, std::string>> rewritings = {
+      {"\r\n", "\n"},
+      {"\r\n", "\r"},
+      {"53.10,105.30", "53.10,\r\n105.30"},
+      {"1,120,1.000", "1\r\n120\r\n1.000"},
+      {"MED,Steel", "MED,\r\nSteel"},
+      {"Copper tube", "\"Copper tube\""},
+      {"0.77,1.50", "  0.77 ,\t1.50  "},
+  };
+  for (const auto& [from, to] : rewritings) {
+    SCOPED_TRACE(to);
+    project.PipeTypeDescriptions.Clear();
+    Read(ReplaceAll(text, from, to));
+    EXPECT_TRUE(project.Faults.empty());
+    EXPECT_EQ(project.PipeTypeDescriptions[1], "Steel medium");
+    EXPECT_EQ(project.PipeTypeDescriptions[2], "Copper tube");
+    EXPECT_EQ(project.PipeBores[3][1], 105.3F);
+    EXPECT_EQ(project.EqLengthsNfpa[2][3], 20.0F);
+  }
+}
+
+TEST_F(PipeDataReader, TakesFittingLengthsOfTheRulesInForce) {
+  const std::map<int, float> in_force = {
+      {kRulesGeneral, 1.5F}, {kRulesNfpa, 1.524F}, {kRulesFm, 1.524F}};
+  for (const auto& [rule_type, metres] : in_force) {
+    project.RuleType = rule_type;
+    Read(SmallPipeData().Text());
+    EXPECT_EQ(project.EqLengths[1][2], metres) << rule_type;
+    EXPECT_EQ(project.EqLengthsLpc[1][2], 1.5F);
+    EXPECT_EQ(project.EqLengthsNfpa[1][2], 5.0F);
+  }
+}
+
+TEST_F(PipeDataReader, ChangesCOfMaterialsUnderNfpaAndFmRules) {
+  struct Case {
+    std::string line;
+    float c;
+    float new_c;
+    float new_factor;
+  };
+  const std::vector<Case> cases = {
+      {"2,110,1.25,0.0015,2,CU,  ductile iron", 110, 100, 0.714F},
+      {"2,120,1.25,0.0015,2,CU,Ductile iron", 120, 120, 1.25F},
+      {"2,140,1.25,0.0015,2,CU,CPVC", 140, 150, 1.49F},
+      {"2,140,1.25,0.0015,2,CU,Plastic", 140, 150, 1.49F},
+      {"2,130,1.25,0.0015,2,CU,Cement lined", 130, 140, 1.33F},
+      {"2,140,1.25,0.0015,2,CU,Copper", 140, 150, 1.49F},
+      {"2,130,1.25,0.0015,2,CU,Copper", 130, 130, 1.25F},
+      {"2,140,1.25,0.0015,2,CU,Steel", 140, 140, 1.25F},
+  };
+  for (const Case& material : cases) {
+    SCOPED_TRACE(material.line);
+    project.RuleType = kRulesGeneral;
+    Read(SmallPipeData().With(3, material.line));
+    EXPECT_EQ(project.TypeC[2], material.c);
+    for (const int rule_type : {kRulesNfpa, kRulesFm}) {
+      project.RuleType = rule_type;
+      Read(SmallPipeData().With(3, material.line));
+      EXPECT_EQ(project.TypeC[2], material.new_c);
+      EXPECT_EQ(project.TypeFittingFactor[2], material.new_factor);
+    }
+  }
+}
+
+TEST_F(PipeDataReader, FindsSchedule40UnderNfpaRulesOnly) {
+  const std::map<int, int> expected = {{kRulesGeneral, 0}, {kRulesNfpa, 2}, {kRulesFm, 0}};
+  for (const char* line : {"2,120,1,0.046,1,S40,Steel", "2,120,1,0.046,1,ST,Steel schedule 40"}) {
+    for (const auto& [rule_type, type] : expected) {
+      project.RuleType = rule_type;
+      Read(SmallPipeData().With(3, line));
+      EXPECT_EQ(project.Schedule40Type, type) << line << " under rule type " << rule_type;
+    }
+  }
+}
+
+TEST_F(PipeDataReader, FindsItsFileWhateverTheCase) {
+  files.Put(session.folders.PdtFolder + "/Test.pdt", SmallPipeData().Text());
+  ReadPipeData(session, CheckMode::kKeepLines);
+  EXPECT_EQ(project.PipeTypeCount, 2);
+  EXPECT_EQ(project.PipeDataPath, session.folders.PdtFolder + "/Test.pdt");
+  EXPECT_EQ(shell.panels[Panel::kHint], "Reading in and checking " + project.PipeDataPath + " ...");
+
+  // Two that differ only in case: the project's spelling tells which, else the user does.
+  files.Put(session.folders.PdtFolder + "/test.pdt",
+            SmallPipeData().With(2, "1,100,1,0.046,1,MED,Steel"));
+  project.PipeLines[9] = "test.pdt";
+  ReadPipeData(session, CheckMode::kKeepLines);
+  EXPECT_EQ(project.TypeC[1], 100.0F);
+  project.PipeLines[9] = "";
+  dialogs.answers = {Answer::kYes};
+  ReadPipeData(session, CheckMode::kKeepLines);
+  EXPECT_EQ(project.TypeC[1], 120.0F);
+  EXPECT_EQ(dialogs.Titles(), std::vector<std::string>{"TEST.PDT"});
+}
+
+TEST_F(PipeDataReader, FallsBackToTheStandardFolder) {
+  project.ProjectFolder = "/projects";
+  project.StandardFolder = "/standard";
+  files.Put("/standard/TEST.PDT", SmallPipeData().Text());
+  Read("ZEB,12:00\r\n2,3,x");
+  EXPECT_TRUE(dialogs.messages.empty());
+  EXPECT_EQ(project.PipeDataPath, "/standard/TEST.PDT");
+  EXPECT_EQ(project.PipeTypeCount, 2);
+}
+
+TEST_F(PipeDataReader, FallsBackToTheStandardFile) {
+  files.Put(session.folders.PdtFolder + "/STD_PIPE.PDT", SmallPipeData().Text());
+  project.ProjectFolder = "/projects";
+  const std::map<std::string, std::string> last_tried = {{"/projects", session.folders.PdtFolder},
+                                                         {"/standard", "/standard"}};
+  for (const auto& [standard_folder, folder] : last_tried) {
+    SCOPED_TRACE(standard_folder);
+    dialogs.messages.clear();
+    project.StandardFolder = standard_folder;
+    project.PipeDataFile = "OTHER.PDT";
+    ReadPipeData(session, CheckMode::kKeepLines);
+    ASSERT_EQ(dialogs.messages.size(), 1U);
+    EXPECT_EQ(dialogs.messages[0].title, "The program will have to continue with STD_PIPE.PDT");
+    EXPECT_EQ(dialogs.messages[0].text, "Cannot read in " + folder + "/OTHER.PDT");
+    EXPECT_EQ(project.PipeDataFile, "STD_PIPE.PDT");
+    EXPECT_EQ(project.PipeTypeCount, 2);
+  }
+}
+
+TEST_F(PipeDataReader, StopsTheCheckWithoutAnyFile) {
+  project.PipeTypeCount = 7;
+  ReadPipeData(session, CheckMode::kKeepLines);
+  ASSERT_EQ(dialogs.messages.size(), 2U);
+  EXPECT_EQ(dialogs.messages[1].title, "This file is missing or corrupt");
+  EXPECT_EQ(dialogs.messages[1].text,
+            "Error in reading " + session.folders.PdtFolder + "/STD_PIPE.PDT");
+  EXPECT_EQ(project.StopFlag, kStopCheck);
+  EXPECT_EQ(project.PipeTypeCount, 7);
+  EXPECT_EQ(project.PipeSizeCount, 0);
+}
+
+TEST_F(PipeDataReader, StopsTheCheckForBytesThatAreNoPipeData) {
+  std::string noise;
+  for (int i = 0; i < 5000; ++i) noise += static_cast<char>(i * 7919 % 256);
+  const std::vector<std::string> broken = {
+      "",
+      "\r\n\r\n",
+      ",,,,,,,,,",
+      "\"",
+      std::string(300, '\0'),
+      noise,
+      PipeDataOf("51,31,21", 51, 31, 21),
+      SmallPipeData().With(1, "99999,3,2"),
+      SmallPipeData().With(1, "2,3"),
+      SmallPipeData().With(2, "1,1e39,1,0.046,1,MED,Steel"),
+      SmallPipeData().With(4, "25,50,32768"),
+      SmallPipeData().With(7, "27.3,abc,105"),
+      "ZEB,12:00,1,1,1,1,120,1,0.046,1,MED," + std::string(10'000'000, '7'),
+      "ZEB,12:00," + std::string(10'000'000, '7'),
+  };
+  for (const std::string& bytes : broken) {
+    SCOPED_TRACE(bytes.substr(0, 60));
+    Read(bytes);
+    EXPECT_EQ(project.StopFlag, kStopCheck);
+    EXPECT_EQ(project.PipeSizeCount, 0);
+    EXPECT_EQ(dialogs.messages.back().title, "This file is missing or corrupt");
+  }
+}
+
+TEST_F(PipeDataReader, StopsTheCheckForATruncatedFile) {
+  const std::string whole = SmallPipeData().Text();
+  const std::size_t last_number = whole.rfind(',') + 1;
+  for (std::size_t length = 0; length <= last_number; ++length) {
+    Read(whole.substr(0, length));
+    EXPECT_EQ(project.StopFlag, kStopCheck) << length;
+  }
+}
+
+std::string BytesOf(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  std::ostringstream bytes;
+  bytes << file.rdbuf();
+  return bytes.str();
+}
+
+TEST_F(PipeDataReader, ReadsTheShippedFilesWithoutAReport) {
+  int readings = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(ZEB_DATA_DIR "/pipedata")) {
+    for (const int rule_type : {kRulesGeneral, kRulesNfpa, kRulesFm}) {
+      SCOPED_TRACE(entry.path().filename().string());
+      project.RuleType = rule_type;
+      Read(BytesOf(entry.path()));
+      EXPECT_TRUE(project.Faults.empty()) << project.Faults.front().problem;
+      EXPECT_EQ(project.StopFlag, 0);
+      EXPECT_GT(project.EqLengths[4][1], 0.0F) << "the tee has no length";
+      ++readings;
+    }
+  }
+  EXPECT_GE(readings, 9);
+}
+
+}  // namespace
+}  // namespace zeb

@@ -11,11 +11,8 @@ namespace zeb {
 // The reference data of a pipe data file. Size index 0 stands for an unsized pipe.
 struct PipeDataTables {
   // By type.
-  Table<float, kLastPipeType> TypeC;              // Hazen-Williams C
-  Table<float, kLastPipeType> TypeFittingFactor;  // on equivalent lengths, for this C
-  // The two as the file has them where the rules in force replaced them, else 0.
-  Table<float, kLastPipeType> TypeFileC;
-  Table<float, kLastPipeType> TypeFileFactor;
+  Table<float, kLastPipeType> TypeC;               // Hazen-Williams C
+  Table<float, kLastPipeType> TypeFittingFactor;   // on equivalent lengths, for this C
   Table<float, kLastPipeType> TypeSizesLine;       // 1 to 3: the line of NominalSizes it uses
   Table<float, kLastPipeType> TypeRoughness;       // mm
   Table<std::string, kLastPipeType> PipeTypeRefs;  // 2 or 3 characters

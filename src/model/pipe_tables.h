@@ -94,9 +94,6 @@ namespace zeb {
   X(PipeSizeAsRead) \
   X(PipeUnsized)
 
-// PipeError of a deleted pipe, until the next check.
-inline constexpr int kPipeDeleted = -1;
-
 // Picture coordinates of the pipe's two ends, rewritten by each redraw.
 #define ZEB_PIPE_COORD_ROWS(X) \
   X(PipeScreenX1) \

@@ -11,7 +11,4 @@ void ClearRealArithmeticFlags() noexcept;
 // was raised since the last clear.
 void CheckRealArithmeticFlags();
 
-// The nearest single. Fails with overflow beyond its range and for NaN.
-[[nodiscard]] float RoundToSingle(double value);
-
 }  // namespace zeb

@@ -40,8 +40,6 @@ struct TextStyle {
   bool bold = false;
   bool italic = false;
   Colour colour;
-
-  friend bool operator==(const TextStyle&, const TextStyle&) = default;
 };
 
 // A place in the window, in its units.

@@ -299,10 +299,6 @@ constexpr std::array<MaterialRule, 5> kMaterialRules = {{
 void PipeDataReading::ApplyNfpaFactors(int type, const std::string& description) {
   for (const MaterialRule& rule : kMaterialRules) {
     if (!Contains(description, rule.word) || project_.TypeC[type] != rule.from_c) continue;
-    if (project_.TypeFileC[type] == 0.0F) {
-      project_.TypeFileC[type] = project_.TypeC[type];
-      project_.TypeFileFactor[type] = project_.TypeFittingFactor[type];
-    }
     project_.TypeC[type] = rule.to_c;
     project_.TypeFittingFactor[type] = rule.factor;
   }
@@ -311,8 +307,6 @@ void PipeDataReading::ApplyNfpaFactors(int type, const std::string& description)
 void ClearForReading(Project& project) {
   project.StopFlag = 0;
   project.Schedule40Type = 0;
-  project.TypeFileC.Clear();
-  project.TypeFileFactor.Clear();
   project.NominalSizes.Clear();
   project.PipeBores.Clear();
   project.EqLengths.Clear();

@@ -1,9 +1,10 @@
 #include "services/field_reader.h"
 
 #include <algorithm>
+#include <cfloat>
+#include <cmath>
 
 #include "model/failure.h"
-#include "model/real_arithmetic.h"
 #include "services/number_text.h"
 
 namespace zeb {
@@ -44,7 +45,11 @@ std::string FieldReader::Field() {
   return TakeField();
 }
 
-float FieldReader::Single() { return RoundToSingle(Number()); }
+float FieldReader::Single() {
+  const double value = Number();
+  if (std::abs(value) > FLT_MAX) throw RuntimeFailure(failure::kOverflow);
+  return static_cast<float>(value);
+}
 
 Int16 FieldReader::Integer() { return RoundToInt16(Number()); }
 

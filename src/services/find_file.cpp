@@ -1,5 +1,7 @@
 #include "services/find_file.h"
 
+#include <vector>
+
 #include "services/paths.h"
 #include "services/text.h"
 
@@ -33,16 +35,12 @@ std::string FindFileNoCase(const Platform& platform, const std::string& folder,
   std::string stated = AddBackSlash(folder) + name;
   if (platform.files.FileExists(stated)) return stated;
   const std::vector<std::string> matches = MatchesOf(platform.files, folder, name);
-  const std::string agreed = AgreedFile(platform.dialogs, name, matches);
-  return agreed.empty() ? stated : AddBackSlash(folder) + agreed;
-}
-
-std::string AgreedFile(Dialogs& dialogs, const std::string& name,
-                       const std::vector<std::string>& matches) {
   for (const std::string& match : matches) {
-    if (matches.size() == 1 || UserAgrees(dialogs, name, match)) return match;
+    if (matches.size() == 1 || UserAgrees(platform.dialogs, name, match)) {
+      return AddBackSlash(folder) + match;
+    }
   }
-  return {};
+  return stated;
 }
 
 }  // namespace zeb

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "platform/platform.h"
 
@@ -12,10 +11,5 @@ namespace zeb {
 // to. Without a match it is the folder and the name as given.
 [[nodiscard]] std::string FindFileNoCase(const Platform& platform, const std::string& folder,
                                          const std::string& name);
-
-// Of files that differ only in upper and lower case the one that the user agrees to; empty when
-// there is none or he agrees to none. A single one needs no question.
-[[nodiscard]] std::string AgreedFile(Dialogs& dialogs, const std::string& name,
-                                     const std::vector<std::string>& matches);
 
 }  // namespace zeb

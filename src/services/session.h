@@ -36,7 +36,6 @@ struct Session {
 
   bool SuppressErrors = false;  // the boxes of check errors are not shown
   bool AutoSave = true;         // every fifth change is saved
-  bool Backups = true;          // copies are made before a project is read and saved
   bool VerboseLogging = false;  // trapped failures go to the error log
 
   std::string CommandFile;  // the project named on the command line

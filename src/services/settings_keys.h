@@ -24,7 +24,6 @@ inline constexpr SettingKey kDataExportDelimiter{"DataExportCSV", "Deliniter", "
 inline constexpr SettingKey kRenumberStartNode{"RenumberNodes", "StartNode", "100"};
 inline constexpr SettingKey kRenumberIncrement{"RenumberNodes", "Increment", "10"};
 inline constexpr SettingKey kProjFolder{"FileLocation", "ProjFolder", ""};
-inline constexpr SettingKey kDirPath{"FileLocation", "DirPath", ""};
 inline constexpr SettingKey kSessionFile{"FileLocation", "zeblast", ""};
 inline constexpr SettingKey kOldSessionFile{"zeblast", "FileLocation", ""};
 inline constexpr SettingKey kAutoNode{"AutoNode", "Auto", "True"};
@@ -43,7 +42,6 @@ inline constexpr SettingKey kReportTitleFont{"FONT", "Name", "Arial"};
 inline constexpr SettingKey kPdfLeftMargin{"TolvanPDF", "LeftMargin", "30"};
 inline constexpr SettingKey kBackground{"Display", "Background", "White"};
 inline constexpr SettingKey kDefaultAuthority{"DesignAuth", "Default", ""};
-inline constexpr SettingKey kIdentifier{"Installation", "Identifier", ""};
 inline constexpr SettingKey kAutoSave{"Options", "AutoSave", "True"};
 // The authorities' own names are keys of this section: "1" shown, "0" hidden.
 inline constexpr std::string_view kAuthoritySection = "DesignAuth";

@@ -1,0 +1,210 @@
+#include "project/project_writer.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "project/project_reader.h"
+#include "support/project_text.h"
+#include "support/test_session.h"
+
+namespace zeb {
+namespace {
+
+using test::FileText;
+using test::Joined;
+using test::MemoryFileSystem;
+using test::NumberedItems;
+using test::TestSession;
+
+constexpr const char* kPath = "/jobs/job.zeb";
+
+// A project of a pipe, a deleted one, a comment and a head code in use.
+struct ProjectWriter : testing::Test, TestSession {
+  ProjectWriter() {
+    project.ProjectPath = "/JOBS/JOB.ZEB";
+    project.SaveFormat = 3;
+    session.Identifier = "ID7";
+    files.PutFolder("/jobs");
+    session.RealPaths["/JOBS/JOB.ZEB"] = kPath;
+    SetLines(Joined(NumberedItems(), {"1 2 50 1.0 N  ", "Z!Z! 2 3", "' note", "END"}));
+    project.HeadCodeCount = 1;
+    project.HeadCodeLines[1] = "01 15.0  80.00   0.50 STD1        /JOBS/JOB.ZEB";
+  }
+
+  void SetLines(const std::vector<std::string>& texts) {
+    project.LineCount = 0;
+    for (const std::string& text : texts) {
+      ++project.LineCount;
+      project.PipeLines[project.LineCount] = text;
+    }
+  }
+
+  Project& project = session.project;
+  const std::string code = "01 15.0  80.00   0.50 STD1    ";
+  const std::vector<std::string> lines = Joined(NumberedItems(), {"1 2 50 1.0 N", "' note", "END"});
+};
+
+TEST_F(ProjectWriter, WritesEachMode) {
+  project.SupplyCount = 2;
+  project.SupplyNames[1] = "None";
+  project.SupplyNames[2] = " item 10 ";
+  project.SupplyTable[2][1] = 2.5F;
+  project.SupplyTable[2][16] = -1.0F;
+  const std::string record = "item 10|0|2.5|0|0|0|0|0|0|0|0|0|0|0|0|0|0|-1";
+  const std::string stamp = "ID7,22/11/2026 09:05:07,";
+  struct Case {
+    SaveMode mode;
+    std::vector<std::string> head;
+    std::vector<std::string> codes;
+  };
+  for (const Case& c : {
+           Case{SaveMode::kLinesOnly, {stamp + ","}, {}},
+           Case{SaveMode::kVersion1, {stamp + "00100000022,1"}, {code}},
+           Case{SaveMode::kVersion2, {stamp + "00100000022,2", "USER,COMPUTER", "", ""}, {code}},
+           Case{SaveMode::kVersion3, {stamp + "00100000022,3", "USER,COMPUTER", "", ""}, {code}},
+           Case{SaveMode::kPumpRecord,
+                {stamp + "00100000022,3", "USER,COMPUTER", record, ""},
+                {code}},
+       }) {
+    EXPECT_TRUE(SaveProject(session, c.mode));
+    EXPECT_EQ(files.Bytes(kPath), FileText(Joined(Joined(c.head, lines), c.codes)))
+        << static_cast<int>(c.mode);
+  }
+}
+
+TEST_F(ProjectWriter, AnEndIsWrittenWhereItStandsAndAddedWhenItIsNotTheLastLine) {
+  struct Case {
+    std::vector<std::string> lines;
+    std::vector<std::string> written;
+    std::vector<std::string> written_in_mode_0;
+  };
+  const std::vector<std::string> items = NumberedItems();
+  for (const Case& c : {
+           Case{{"1"}, {"1", "END"}, {"1", "END"}},
+           Case{{"1", "end"}, {"1", "end", "END"}, {"1", "end", "END"}},
+           Case{{"1", "END", "2"}, {"1", "END", "2", "END"}, {"1", "2", "END"}},
+           Case{{"1", "END  "}, {"1", "END"}, {"1", "END"}},
+           Case{{"1", "ENDING"}, {"1", "ENDING", "END"}, {"1", "END"}},
+           Case{{"", "1", "  "}, {"1", "END"}, {"1", "END"}},
+       }) {
+    SetLines(Joined(items, c.lines));
+    SaveProject(session, SaveMode::kVersion1);
+    EXPECT_TRUE(files.Bytes(kPath).ends_with(FileText(Joined(Joined(items, c.written), {code}))))
+        << c.lines.back();
+    SaveProject(session, SaveMode::kLinesOnly);
+    EXPECT_TRUE(files.Bytes(kPath).ends_with(FileText(Joined(items, c.written_in_mode_0))))
+        << c.lines.back();
+  }
+}
+
+TEST_F(ProjectWriter, WhoWroteTheFileFirstStaysNamedInIt) {
+  struct Case {
+    const char* origin;
+    const char* stamp;
+    const char* version;
+    const char* head;
+  };
+  for (const Case& c : {
+           Case{"FIRST", "1/2/2003", "2", "FIRST,1/2/2003,"},
+           Case{"FIRST", "1/2/2003", "", "ID7,22/11/2026 09:05:07,"},
+           Case{"", "1/2/2003", "3", "ID7,1/2/2003,"},
+           Case{"09:41", "1/2/1995", "x", "ID7,1/2/1995,"},  // read back, it would be legacy
+       }) {
+    project.HeaderOrigin = c.origin;
+    project.HeaderStamp = c.stamp;
+    project.HeaderVersion = c.version;
+    SaveProject(session, SaveMode::kVersion3);
+    EXPECT_TRUE(files.Bytes(kPath).starts_with(c.head)) << files.Bytes(kPath).substr(0, 40);
+  }
+}
+
+TEST_F(ProjectWriter, WhatIsSavedReadsBack) {
+  project.DataChanged = 2;
+  project.AutoSavePending = 1;
+  SaveProject(session, SaveMode::kVersion3);
+  EXPECT_EQ(project.DataChanged, 0);
+  EXPECT_EQ(project.AutoSavePending, 0);
+  EXPECT_EQ(project.UndoDescription, "Data saved");
+  EXPECT_EQ(shell.pictures[Panel::kSaveState], kPictureSaved);
+  ReadProject(session);
+  ASSERT_EQ(project.LineCount, static_cast<int>(lines.size()));
+  for (int line = 1; line <= project.LineCount; ++line) {
+    EXPECT_EQ(project.PipeLines[line], lines[static_cast<std::size_t>(line) - 1]);
+  }
+}
+
+TEST_F(ProjectWriter, AProjectWithoutAFileIsNotWritten) {
+  project.ProjectPath = kUntitled;
+  EXPECT_FALSE(SaveProject(session, SaveMode::kVersion3));
+  EXPECT_TRUE(files.AllFiles().empty());
+}
+
+TEST_F(ProjectWriter, ASaveThatFailsLeavesTheOldFileAndSaysSo) {
+  const std::string old_bytes = "old";
+  std::size_t shown = 1;
+  int step = 0;
+  while (shown > 0) {
+    files.Put(kPath, old_bytes);
+    project.DataChanged = 1;
+    dialogs.messages.clear();
+    dialogs.answers.assign(20, Answer::kCancel);
+    files.FailAt(++step, failure::kDiskFull);
+    const bool saved = SaveProject(session, SaveMode::kVersion3);
+    files.StopFailing();
+    shown = dialogs.messages.size();
+    EXPECT_EQ(project.DataChanged > 0, !saved) << step;
+    EXPECT_EQ(shell.pictures[Panel::kSaveState], saved ? kPictureSaved : kPictureUnsaved) << step;
+    const std::string now = files.Bytes(kPath);
+    EXPECT_TRUE(now == old_bytes || now.ends_with(code + "\r\n")) << step;
+    EXPECT_TRUE(!saved || now != old_bytes) << step;
+  }
+  EXPECT_GT(step, 10);
+}
+
+TEST_F(ProjectWriter, KilledAtAnyMomentTheOldFileOrTheNewOneStands) {
+  const std::string old_bytes(1000, 'o');
+  bool killed = true;
+  int step = 0;
+  while (killed) {
+    files.Put(kPath, old_bytes);
+    files.KillAt(++step);
+    killed = false;
+    try {
+      SaveProject(session, SaveMode::kVersion3);
+    } catch (const MemoryFileSystem::Killed&) {
+      killed = true;
+    }
+    files.StopFailing();
+    const std::string now = files.Bytes(kPath);
+    EXPECT_TRUE(now == old_bytes || now.ends_with(code + "\r\n")) << step;
+    const std::string backup = files.Bytes("/jobs/job.ZE!");
+    EXPECT_TRUE(backup.empty() || backup == old_bytes) << step;
+  }
+  EXPECT_GT(step, 10);
+}
+
+TEST_F(ProjectWriter, ACheckedCopyHoldsTheComposedPipes) {
+  SetLines(Joined(NumberedItems(), {"as typed", "' note", "END"}));
+  project.PipeLines[2] = "";
+  project.PipeCount = 3;
+  project.PipeError[2] = kPipeDeleted;
+  commands.on_compose = [&](int pipe) {
+    EXPECT_EQ(project.SavedCopyPath, "/jobs/copy.zeb");
+    project.ComposedLine = "pipe " + std::to_string(pipe);
+  };
+  EXPECT_TRUE(SaveCheckedCopy(session, "/jobs/copy.zeb"));
+  std::vector<std::string> items = NumberedItems();
+  items[1] = "";
+  EXPECT_EQ(files.Bytes("/jobs/copy.zeb"),
+            FileText(Joined(
+                Joined({"ID7,22/11/2026 09:05:07,00100000021,3", "USER,COMPUTER", "", ""}, items),
+                {"pipe 1", "pipe 3", "END", code})));
+  EXPECT_EQ(project.SavedCopyPath, "");
+  EXPECT_EQ(project.PipeLines[19], "as typed");
+  EXPECT_EQ(files.AllFiles().size(), 1U);
+}
+
+}  // namespace
+}  // namespace zeb

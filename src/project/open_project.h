@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+#include "services/session.h"
+
+namespace zeb {
+
+// Reads the file of ProjectPath and, when it holds a project, checks it and rewrites clean lines.
+void ReadAndCheck(Session& session);
+
+// Opens a project file in place of the open project, whose changes are the caller's to save.
+void OpenProject(Session& session, const std::string& path);
+
+// Switches off what works on a checked project.
+void DisableProjectMenus(Shell& shell);
+
+}  // namespace zeb

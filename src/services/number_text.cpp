@@ -167,6 +167,8 @@ float RoundedForDecimals(float value, int decimals) {
 }
 
 std::string WholeText(double whole) {
+  constexpr double kPlain = 1E15;  // below, a whole number needs no exact decimals
+  if (whole < kPlain) return std::to_string(static_cast<long long>(whole));
   const std::string text = ExactDecimals(whole, 0);
   return text.substr(0, text.find('.'));
 }

@@ -1,0 +1,166 @@
+#include "project/save_commands.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "project/open_project.h"
+#include "project/project_writer.h"
+#include "project/save_question.h"
+#include "support/networks.h"
+#include "support/test_session.h"
+
+namespace zeb {
+namespace {
+
+using test::TestSession;
+
+struct SaveCommands : testing::Test, TestSession {
+  SaveCommands() {
+    project.ProductName = "ZEB";
+    project.SaveFormat = 3;
+    session.AutoSave = false;
+    files.Put("/jobs/job.zeb", test::ProjectFile({" 1 2 50 1.0 N"}));
+  }
+
+  void Open() {
+    OpenProject(session, "/jobs/job.zeb");
+    Change();
+    dialogs.messages.clear();
+  }
+  void BeginUntitled() {
+    project.ProjectPath = kUntitled;
+    project.LineCount = 1;
+    Change();
+  }
+  void Change() {
+    project.PipeLines[1] = "changed";
+    project.DataChanged = 1;
+  }
+  [[nodiscard]] bool Saved(const std::string& path) const {
+    return files.Bytes(path).find("changed") != std::string::npos;
+  }
+
+  Project& project = session.project;
+};
+
+TEST_F(SaveCommands, TheQuestionDecidesAboutChanges) {
+  for (const Answer answer : {Answer::kYes, Answer::kNo}) {
+    Open();
+    dialogs.answers = {answer};
+    EXPECT_TRUE(CheckSaveChanges(session));
+    EXPECT_EQ(dialogs.Titles(), std::vector<std::string>{"Save ZEB Project Data"});
+    EXPECT_EQ(Saved("/jobs/job.zeb"), answer == Answer::kYes);
+    EXPECT_EQ(project.DataChanged, 0);
+    EXPECT_TRUE(CheckSaveChanges(session));  // nothing left to ask
+    EXPECT_EQ(dialogs.messages.size(), 1U);
+    files.Put("/jobs/job.zeb", test::ProjectFile({" 1 2 50 1.0 N"}));
+  }
+}
+
+TEST_F(SaveCommands, AProjectThatCannotBeSavedStaysOpen) {
+  Open();
+  files.SetReadOnly("/jobs/job.zeb");
+  dialogs.answers.assign(9, Answer::kCancel);
+  dialogs.answers.front() = Answer::kYes;
+  EXPECT_FALSE(CheckSaveChanges(session));
+  EXPECT_EQ(project.DataChanged, 1);
+}
+
+TEST_F(SaveCommands, PlainSaveNeverAsksAndLeavesNoPermission) {
+  Open();
+  Fsav(session);
+  EXPECT_TRUE(Saved("/jobs/job.zeb"));
+  Fsav(session);  // nothing to save
+  EXPECT_EQ(project.AutoSavePending, 0);
+  EXPECT_TRUE(dialogs.messages.empty());
+}
+
+TEST_F(SaveCommands, AnUntitledProjectIsNamed) {
+  BeginUntitled();
+  dialogs.save_answers = {"/other/New job.zeb"};
+  files.PutFolder("/other");
+  EXPECT_TRUE(CheckSaveChanges(session));
+  EXPECT_EQ(dialogs.saves[0].filter, "ZEB Files|*.ZEB");
+  EXPECT_EQ(dialogs.saves[0].folder, "/docs/My ZEB/Projects");
+  EXPECT_EQ(project.ProjectPath, "/OTHER/NEW JOB.ZEB");
+  EXPECT_TRUE(Saved("/other/New job.zeb"));
+  EXPECT_EQ(shell.titles.back(), "ZEB - Picture screen /OTHER/NEW JOB.ZEB");
+  EXPECT_EQ(shell.recent_files, std::vector<std::string>{"/other/New job.zeb"});
+  EXPECT_EQ(session.settings.GetIniValue(setting::kProjFolder), "/other");
+  EXPECT_EQ(session.folders.LastFolder, "/other");
+}
+
+TEST_F(SaveCommands, AnUntitledProjectIsDroppedOnlyWhenTheUserSaysSo) {
+  BeginUntitled();
+  dialogs.answers = {Answer::kNo, Answer::kYes};
+  EXPECT_FALSE(CheckSaveChanges(session));
+  EXPECT_EQ(project.DataChanged, 1);
+  EXPECT_TRUE(CheckSaveChanges(session));
+  EXPECT_EQ(dialogs.messages[1].title, "This data will not be saved");
+  EXPECT_EQ(project.DataChanged, 0);
+}
+
+TEST_F(SaveCommands, ADeclinedOverwriteIsNotMadeGoodByTheNextSave) {
+  BeginUntitled();
+  files.SetTime("/jobs/job.zeb", {2026, 2, 3, 4, 5, 6});
+  const std::string size = std::to_string(files.Bytes("/jobs/job.zeb").size());
+  dialogs.save_answers = {"/jobs/job.zeb", ""};
+  dialogs.answers = {Answer::kNo, Answer::kNo};
+  EXPECT_FALSE(CheckSaveChanges(session));
+  EXPECT_EQ(dialogs.messages[0].title, "/JOBS/JOB.ZEB already exists");
+  EXPECT_EQ(dialogs.messages[0].text,
+            "This file name has been used before.\r\n\r\nSize is " + size +
+                " bytes and was last updated on 03/02/2026 04:05:06\r\n\r\n"
+                "Do you want to overwrite the previous data?");
+  Fsav(session);
+  EXPECT_FALSE(Saved("/jobs/job.zeb"));
+  EXPECT_EQ(project.ProjectPath, kUntitled);
+}
+
+TEST_F(SaveCommands, SaveAsContinuesOnTheNewFile) {
+  Open();
+  project.NewProjectFlag = 1;
+  dialogs.save_answers = {"/jobs/copy.zeb"};
+  Fsave(session);
+  EXPECT_TRUE(Saved("/jobs/copy.zeb"));
+  EXPECT_FALSE(Saved("/jobs/job.zeb"));
+  EXPECT_EQ(project.ProjectPath, "/JOBS/COPY.ZEB");
+  EXPECT_EQ(project.LineCount, 20);
+  EXPECT_EQ(project.UndoSeq, 2);
+  EXPECT_EQ(commands.checks.size(), 2U);
+}
+
+TEST_F(SaveCommands, SaveAsLeavesAnExistingFileWhenTheUserSaysNo) {
+  Open();
+  files.Put("/jobs/copy.zeb", "precious");
+  dialogs.save_answers = {"/jobs/copy.zeb"};
+  dialogs.answers = {Answer::kNo};
+  Fsave(session);
+  EXPECT_EQ(files.Bytes("/jobs/copy.zeb"), "precious");
+  EXPECT_EQ(dialogs.messages[0].title, "Existing File Name");
+  EXPECT_EQ(project.ProjectPath, "/JOBS/JOB.ZEB");
+}
+
+TEST_F(SaveCommands, VersionsAreNumbered) {
+  Open();
+  for (const char* name : {"job_Ver.zeb", "job_Ver1.zeb", "job_Ver2.zeb"}) {
+    FsaveVersion(session);
+    EXPECT_TRUE(Saved(std::string("/jobs/") + name));
+    EXPECT_EQ(dialogs.messages.back().text,
+              std::string("The ZEB project has just been saved as:\r\n") + name);
+  }
+  EXPECT_EQ(project.ProjectPath, "/JOBS/JOB.ZEB");
+  EXPECT_EQ(project.DataChanged, 1);  // the project's own file still lacks the change
+
+  OpenProject(session, "/jobs/job_Ver1.zeb");
+  FsaveVersion(session);
+  EXPECT_TRUE(files.Has("/jobs/job_Ver3.zeb"));
+  project.ProjectPath = kUntitled;
+  FsaveVersion(session);
+  EXPECT_EQ(dialogs.messages.size(), 4U);
+}
+
+}  // namespace
+}  // namespace zeb

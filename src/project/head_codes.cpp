@@ -13,7 +13,6 @@ namespace {
 
 constexpr int kNameWidth = 10;
 constexpr int kPathColumn = 35;
-constexpr int kDeleted = -1;  // in PipeError
 constexpr std::string_view kUntitled = "[Untitled]";
 
 // A field's first column, from 1, and its width.
@@ -181,7 +180,7 @@ void countHeads(Session& session) {
     RenumberHeads(project, code, position);
   }
   for (int pipe = 1; pipe <= project.PipeCount; ++pipe) {
-    if (project.PipeError[pipe] != kDeleted) session.platform.commands.ComposePipeLine(pipe);
+    if (project.PipeError[pipe] != kPipeDeleted) session.platform.commands.ComposePipeLine(pipe);
   }
   ReplaceLines(project, lines);
   session.platform.shell.Redraw();

@@ -1,0 +1,121 @@
+#include "project/supplies.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "support/test_session.h"
+
+namespace zeb {
+namespace {
+
+using test::TestSession;
+
+struct Supplies : testing::Test, TestSession {
+  Supplies() {
+    project.SupplyCount = 2;
+    project.SupplyNames[1] = "None";
+    project.SupplyNames[2] = "Town main at the northern gate";
+    project.SupplyTable[2] = {0, 5.5F, 1000, 4.25F};
+  }
+
+  Project& project = session.project;
+  SupplyEditor editor{session};
+};
+
+TEST_F(Supplies, AreFoundByTheirFirst26Characters) {
+  EXPECT_EQ(FindSupply(project, "TOWN MAIN AT THE NORTHERN fence"), 2);
+  EXPECT_EQ(FindSupply(project, " none"), 1);
+  EXPECT_EQ(FindSupply(project, "Town main"), 0);
+}
+
+TEST_F(Supplies, ANameWithoutARowStaysTheProjects) {
+  editor.Load("Tank of another user");
+  EXPECT_EQ(editor.SelectedRow(), 1);
+  EXPECT_EQ(editor.SupplyName, "Tank of another user");
+  editor.lstSupply_Click(2);
+  EXPECT_EQ(editor.SupplyName, "Town main at the northern gate");
+  EXPECT_EQ(editor.Pressures[1], "4.25");
+}
+
+TEST_F(Supplies, ANewOneIsStoredAndPicked) {
+  editor.Load("None");
+  editor.cmdPumpAdd_Click();
+  EXPECT_TRUE(editor.Editing());
+  editor.Flows = {"0", "1000", "", "", "", "", "", "200000"};
+  editor.Pressures = {"6", "-2", "", "", "", "", "", "301"};
+  editor.TankHeight = "2.5";
+
+  editor.cmbPumpSave_Click();  // without a reference
+  EXPECT_EQ(dialogs.messages.back().title, "You have not given a water supply / pump reference!");
+  EXPECT_EQ(dialogs.messages.back().text, "Please ensure you give some text as a reference");
+  EXPECT_EQ(project.SupplyCount, 2);
+
+  editor.Reference = "Diesel pump";
+  editor.cmbPumpSave_Click();
+  EXPECT_EQ(project.SupplyCount, 3);
+  const SupplyValues expected = {0, 6, 1000, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 99999, 300, 2.5F};
+  EXPECT_EQ(project.SupplyTable[3], expected);
+  EXPECT_EQ(editor.SupplyName, "Diesel pump");
+  EXPECT_FALSE(editor.Editing());
+}
+
+TEST_F(Supplies, TheFirstRowIsNeverEdited) {
+  editor.Load("None");
+  editor.cmbPumpEdit_Click();
+  EXPECT_FALSE(editor.Editing());
+  editor.lstSupply_Click(2);
+  editor.cmbPumpEdit_Click();
+  EXPECT_TRUE(editor.Editing());
+  editor.Reference = "Town main 2";
+  editor.cmbPumpSave_Click();
+  EXPECT_EQ(project.SupplyCount, 2);
+  EXPECT_EQ(project.SupplyNames[2], "Town main 2");
+}
+
+TEST_F(Supplies, NoRowIsAddedOrOverwrittenWhenTheTableIsFull) {
+  project.SupplyCount = 49;
+  project.SupplyNames[49] = "The last";
+  editor.Load("The last");
+  editor.cmdPumpAdd_Click();
+  editor.Reference = "One more";
+  editor.cmbPumpSave_Click();
+  EXPECT_EQ(project.SupplyCount, 49);
+  EXPECT_EQ(project.SupplyNames[49], "The last");
+  EXPECT_EQ(editor.SupplyName, "The last");
+  EXPECT_EQ(dialogs.messages.size(), 1U);
+}
+
+TEST_F(Supplies, TheFirstOneMadeIsNone) {
+  project.SupplyCount = 0;
+  project.SupplyNames[1] = "";
+  editor.Load("");
+  editor.cmdPumpAdd_Click();
+  editor.Reference = "Town main";
+  editor.cmbPumpSave_Click();
+  EXPECT_EQ(project.SupplyNames[1], "None");
+  EXPECT_EQ(project.SupplyNames[2], "Town main");
+}
+
+TEST_F(Supplies, FlowsAscend) {
+  editor.cmdPumpAdd_Click();
+  editor.Flows[0] = "-5";
+  editor.Flow_LostFocus(0);
+  EXPECT_EQ(editor.Flows[0], "0");
+  editor.Flows[1] = "1000";
+  editor.Flow_LostFocus(1);
+  editor.Flow_LostFocus(2);  // left empty
+  EXPECT_TRUE(dialogs.messages.empty());
+  editor.Flows[2] = "999.5";
+  editor.Flow_LostFocus(2);
+  ASSERT_EQ(dialogs.messages.size(), 1U);
+  EXPECT_EQ(dialogs.messages[0].title, "Flows must be in ascending order");
+  EXPECT_EQ(dialogs.messages[0].text,
+            "The flow just entered is less than the previous value of 1000 L/min");
+  EXPECT_EQ(editor.Flows[2], "0");
+  editor.Flow_LostFocus(2);  // nothing was entered since
+  EXPECT_EQ(dialogs.messages.size(), 1U);
+}
+
+}  // namespace
+}  // namespace zeb

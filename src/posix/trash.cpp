@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 
+#include <cctype>
 #include <cerrno>
 #include <ctime>
 #include <string>
@@ -62,7 +63,7 @@ std::string ReserveName(const fs::path& info_folder, const fs::path& file) {
   constexpr std::size_t kLongestName = 200;
   const std::string name = file.filename().native().substr(0, kLongestName);
   for (int number = 1;; ++number) {
-    const std::string free_name = number == 1 ? name : name + "." + PlainText(number);
+    std::string free_name = number == 1 ? name : name + "." + PlainText(number);
     const fs::path info = info_folder / (free_name + ".trashinfo");
     try {
       OpenFile opened(info, O_WRONLY | O_CREAT | O_EXCL);
@@ -97,6 +98,7 @@ void MoveFileToTrash(const fs::path& file) {
   std::error_code error;
   if (!fs::exists(fs::symlink_status(file, error))) throw RuntimeFailure(failure::kFileNotFound);
   const fs::path trash = DataHome() / "Trash";
+  MakePrivateFolder(trash);
   MakePrivateFolder(trash / "info");
   MakePrivateFolder(trash / "files");
   const std::string name = ReserveName(trash / "info", file);

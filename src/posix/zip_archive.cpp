@@ -97,6 +97,14 @@ void AddEntry(zip_t* zip, const ArchiveEntry& entry, bool encrypted) {
   Check(zip_file_set_encryption(zip, added, ZIP_EM_AES_256, nullptr) == 0, zip);
 }
 
+// The library writes no archive at all when there is nothing to pack.
+std::string EmptyArchive() {
+  constexpr std::size_t kEndRecordSize = 22;
+  std::string bytes = "PK\x05\x06";
+  bytes.resize(kEndRecordSize, '\0');
+  return bytes;
+}
+
 std::string PackedBytes(zip_source_t* source) {
   zip_stat_t status{};
   if (zip_source_stat(source, &status) != 0 || zip_source_open(source) != 0) Fail(ZIP_ER_READ);
@@ -107,10 +115,21 @@ std::string PackedBytes(zip_source_t* source) {
   return bytes;
 }
 
+std::string Packed(const std::vector<ArchiveEntry>& entries, const std::string& password) {
+  if (entries.empty()) return EmptyArchive();
+  const Source packed = SourceOf(nullptr, 0);
+  Zip zip = OpenZip(packed, ZIP_CREATE | ZIP_TRUNCATE, password);
+  for (const ArchiveEntry& entry : entries) AddEntry(zip.get(), entry, !password.empty());
+  Check(zip_close(zip.get()) == 0, zip.get());
+  static_cast<void>(zip.release());  // closing has freed it
+  return PackedBytes(packed.get());
+}
+
 }  // namespace
 
 std::vector<ArchiveEntry> ZipArchive::Read(const std::string& path, const std::string& password) {
   const std::string packed = files_.ReadFile(path);
+  if (packed.empty()) Fail(ZIP_ER_NOZIP);  // would pass for an archive without entries
   const Source source = SourceOf(packed.data(), packed.size());
   const Zip zip = OpenZip(source, ZIP_RDONLY, password);
   std::vector<ArchiveEntry> entries;
@@ -128,12 +147,7 @@ std::vector<ArchiveEntry> ZipArchive::Read(const std::string& path, const std::s
 
 void ZipArchive::Write(const std::string& path, const std::vector<ArchiveEntry>& entries,
                        const std::string& password) {
-  const Source packed = SourceOf(nullptr, 0);
-  Zip zip = OpenZip(packed, ZIP_CREATE | ZIP_TRUNCATE, password);
-  for (const ArchiveEntry& entry : entries) AddEntry(zip.get(), entry, !password.empty());
-  Check(zip_close(zip.get()) == 0, zip.get());
-  static_cast<void>(zip.release());  // closing has freed it
-  WriteFileSafely(files_, path, PackedBytes(packed.get()));
+  WriteFileSafely(files_, path, Packed(entries, password));
 }
 
 }  // namespace zeb

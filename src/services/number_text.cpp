@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdlib>
 #include <limits>
+#include <ranges>
 #include <system_error>
 
 #include "services/text.h"
@@ -99,13 +100,13 @@ std::string ExactDecimals(double value, int decimals) {
 
 // Adds one in the last place of a decimal text.
 void CountUp(std::string& number) {
-  for (auto digit = number.rbegin(); digit != number.rend(); ++digit) {
-    if (*digit == '.') continue;
-    if (*digit != '9') {
-      ++*digit;
+  for (char& digit : number | std::views::reverse) {
+    if (digit == '.') continue;
+    if (digit != '9') {
+      ++digit;
       return;
     }
-    *digit = '0';
+    digit = '0';
   }
   number.insert(0, "1");
 }
@@ -130,7 +131,7 @@ std::string PointForm(const std::string& digits, int exponent) {
 // places.
 std::string MagnitudeText(float value) {
   constexpr int kSignificant = 7;
-  const std::string scientific = Scientific(value, kSignificant - 1);
+  std::string scientific = Scientific(value, kSignificant - 1);
   if (!std::isfinite(value)) return scientific;
   const std::size_t letter = scientific.find('e');
   const int exponent = static_cast<int>(Val(scientific.substr(letter + 1)));

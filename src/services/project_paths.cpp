@@ -48,7 +48,7 @@ std::string RealPath(Session& session, const std::string& stated) {
   const std::string name = ReturnFileName(stated);
   const Paths folders = MatchingFolders(files, ReturnFolder(stated));
   const Paths matches = Matches(files, &FileSystem::FileNames, folders, name);
-  const std::string agreed = AgreedFile(session.platform.dialogs, name, matches);
+  std::string agreed = AgreedFile(session.platform.dialogs, name, matches);
   if (!agreed.empty()) {
     RememberRealPath(session, agreed);
     return agreed;

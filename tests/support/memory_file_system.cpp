@@ -167,7 +167,7 @@ void MemoryFileSystem::Remove(const std::string& path) {
 
 void MemoryFileSystem::MakeFolder(const std::string& folder) {
   Count();
-  if (Has(Bare(folder))) throw RuntimeFailure(failure::kPathFileAccess);
+  if (Has(Bare(folder))) throw RuntimeFailure(failure::kPathNotFound);
   PutFolder(folder);
 }
 

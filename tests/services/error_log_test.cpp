@@ -1,0 +1,115 @@
+#include "services/error_log.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "services/procedure.h"
+#include "services/support_bundle.h"
+#include "services/text.h"
+#include "support/test_session.h"
+
+namespace zeb {
+namespace {
+
+using test::TestSession;
+using Texts = std::vector<std::string>;
+
+constexpr const char* kLog = "/prog/ZEB_error.log";
+
+Texts LogLines(const TestSession& test) { return SplitLines(test.files.Bytes(kLog)); }
+
+TEST(ErrorLogTest, StartsWithItsHeadAndTheNewSession) {
+  TestSession test;
+  test.session.log.LogError({.text = "Two\r\nlines", .source = "ZEB.Open_Save", .line = 12});
+  test.session.log.LogError({.text = "Note", .source = "ZEB.X", .line = 1, .brief = true});
+  const Texts lines = LogLines(test);
+  ASSERT_EQ(lines.size(), 6U);
+  EXPECT_EQ(lines[0], "ZEB Error log created on: 22/11/2026 at 09:05:07");
+  EXPECT_EQ(lines[1], "ZEB path: /prog");
+  EXPECT_TRUE(lines[2].starts_with("ZEB version: "));
+  EXPECT_EQ(lines[3],
+            "22/11/2026 - 09:05:07, "
+            "New session.....................................................");
+  EXPECT_EQ(lines[4], "22/11/2026 - 09:05:07, Two lines --- in ZEB.Open_Save / 12");
+  EXPECT_EQ(lines[5], "22/11/2026 - 09:05:07, Note");
+}
+
+TEST(ErrorLogTest, ALogOfAnEarlierRunGoesOn) {
+  TestSession test;
+  test.files.Put(kLog, "before\r\n");
+  test.session.log.LogError({.text = "Note", .source = "", .line = 0, .brief = true});
+  ASSERT_EQ(LogLines(test).size(), 3U);
+  EXPECT_EQ(LogLines(test)[0], "before");
+  EXPECT_TRUE(Contains(LogLines(test)[1], "New session"));
+}
+
+TEST(ErrorLogTest, ShowsTheErrorEvenWhenTheDiskIsFull) {
+  TestSession test;
+  test.files.FailAt(1, 61);
+  test.session.log.LogError({.text = "Bad", .source = "ZEB.X", .line = 3, .show = true});
+  ASSERT_EQ(test.dialogs.messages.size(), 1U);
+  EXPECT_EQ(test.dialogs.messages[0].title, "Tolvan - ZEB");
+  EXPECT_EQ(
+      test.dialogs.messages[0].text,
+      "Error: Bad\r\n\r\nThe error happened in component 'ZEB.X' at line 3 and was logged (if "
+      "configured so) to the 'Log.txt' file.");
+}
+
+TEST(ProcedureTest, TellsAFailureAndGoesOn) {
+  TestSession test;
+  for (const bool verbose : {false, true}) {
+    test.session.VerboseLogging = verbose;
+    Procedure procedure(test.session, "ZEBF03", "Rdxf_Click");
+    EXPECT_FALSE(procedure.Step(10, [] { throw RuntimeFailure(11); }));
+    EXPECT_TRUE(procedure.Step(20, [] {}));
+    EXPECT_EQ(test.dialogs.messages.back().text,
+              "Division by zero\r\nin ZEB.ZEBF03.Rdxf_Click at line 10");
+    EXPECT_EQ(test.files.Has(kLog), verbose);
+  }
+  EXPECT_TRUE(
+      LogLines(test).back().ends_with("Division by zero --- in ZEB.ZEBF03.Rdxf_Click / 10"));
+}
+
+TEST(SupportBundleTest, PacksWhatSupportNeeds) {
+  TestSession test;
+  for (const char* path :
+       {"/prog/ZEB_error.log", "/prog/zeblast.txt", "/prog/STD_PIPE.PDT", "/prog/zeb",
+        "/prog/pipedata/other.pdt", "/prog/ZEB_prj_err_dat.zip", "/prog/ZEB_error_data.zip",
+        "/config/ZEB/zeb.ini", "/config/ZEB/sub/zebjobs.dat"}) {
+    test.files.Put(path, path);
+  }
+  ZEB_error_dat(test.session);
+  EXPECT_TRUE(test.dialogs.messages.empty());
+  const auto& bundle = test.archive.archives["/prog/ZEB_error_data.zip"];
+  EXPECT_EQ(bundle.password, "");
+  Texts names;
+  for (const ArchiveEntry& entry : bundle.entries) names.push_back(entry.name);
+  EXPECT_EQ(names, (Texts{"STD_PIPE.PDT", "ZEB_error.log", "zeblast.txt", "ZEB_prj_err_dat.zip",
+                          "ZEB/zeb.ini", "ZEB/sub/zebjobs.dat"}));
+  EXPECT_EQ(bundle.entries.back().bytes, "/config/ZEB/sub/zebjobs.dat");
+  EXPECT_EQ(test.files.Bytes("/desktop/ZEB_error_data.zip"),
+            test.files.Bytes("/prog/ZEB_error_data.zip"));
+
+  delErrorLogFiles(test.session);
+  for (const char* gone :
+       {"/prog/ZEB_error.log", "/prog/ZEB_prj_err_dat.zip", "/prog/ZEB_error_data.zip"}) {
+    EXPECT_FALSE(test.files.Has(gone));
+  }
+  EXPECT_TRUE(test.files.Has("/prog/zeblast.txt"));
+  delErrorLogFiles(test.session);
+  EXPECT_TRUE(test.dialogs.messages.empty());
+}
+
+TEST(SupportBundleTest, CopiesNoOlderBundleAfterAFailure) {
+  TestSession test;
+  test.files.Put("/prog/ZEB_error_data.zip", "old");
+  test.files.FailAt(1, 61);
+  ZEB_error_dat(test.session);
+  EXPECT_EQ(test.dialogs.messages.size(), 1U);
+  EXPECT_FALSE(test.files.Has("/desktop/ZEB_error_data.zip"));
+}
+
+}  // namespace
+}  // namespace zeb

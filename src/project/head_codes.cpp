@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "model/real_arithmetic.h"
+#include "project/project_writer.h"
 #include "services/number_text.h"
 #include "services/text.h"
 
@@ -13,7 +14,6 @@ namespace {
 
 constexpr int kNameWidth = 10;
 constexpr int kPathColumn = 35;
-constexpr std::string_view kUntitled = "[Untitled]";
 
 // A field's first column, from 1, and its width.
 struct Column {

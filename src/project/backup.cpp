@@ -35,6 +35,21 @@ void CopyToTmp(Session& session, Procedure& procedure, const std::string& path) 
   procedure.Step(60, [&] { CopyFileSafely(files, path, copy); });
 }
 
+void CopyTwice(Session& session, const std::string& path, const std::string& extension, bool ask) {
+  if (!session.Backups) return;
+  FileSystem& files = session.platform.files;
+  Procedure procedure(session, "Open_Save", "MakeBackup");
+  procedure.Step(10, [&] { MakeTmpFolder(session); });
+  if (!files.FileExists(path)) return;
+
+  const std::string beside = ChangeFileExt(path, extension);
+  if (ask && files.FileExists(beside) && !UserReplaces(session.platform.dialogs)) return;
+  CopyToTmp(session, procedure, path);
+  if (!SameFile(files, beside, path)) {
+    procedure.Step(70, [&] { CopyFileSafely(files, path, beside); });
+  }
+}
+
 }  // namespace
 
 std::string TmpFolder(const Session& session) {
@@ -43,20 +58,13 @@ std::string TmpFolder(const Session& session) {
 
 bool MakeBackup(Session& session, const std::string& stated, const std::string& extension,
                 bool ask) {
-  if (!session.Backups) return true;
-  FileSystem& files = session.platform.files;
-  Procedure procedure(session, "Open_Save", "MakeBackup");
-  procedure.Step(10, [&] { MakeTmpFolder(session); });
-  const std::string path = files.FileExists(stated) ? stated : RealPath(session, stated);
-  if (!files.FileExists(path)) return true;
-
-  const std::string beside = ChangeFileExt(path, extension);
-  if (ask && files.FileExists(beside) && !UserReplaces(session.platform.dialogs)) return true;
-  CopyToTmp(session, procedure, path);
-  if (!SameFile(files, beside, path)) {
-    procedure.Step(70, [&] { CopyFileSafely(files, path, beside); });
-  }
+  const bool exact = session.platform.files.FileExists(stated);
+  CopyTwice(session, exact ? stated : RealPath(session, stated), extension, ask);
   return true;
+}
+
+void BackUpFile(Session& session, const std::string& path) {
+  CopyTwice(session, path, kBackupExtension, false);
 }
 
 }  // namespace zeb

@@ -19,4 +19,7 @@ inline constexpr const char* kBackupExtension = "ZE!";
 bool MakeBackup(Session& session, const std::string& stated, const std::string& extension,
                 bool ask);
 
+// The same for a file of exactly this path, with the usual extension and without a question.
+void BackUpFile(Session& session, const std::string& path);
+
 }  // namespace zeb

@@ -1,6 +1,7 @@
 #include "project/project_location.h"
 
 #include "services/paths.h"
+#include "services/procedure.h"
 #include "services/project_paths.h"
 #include "services/text.h"
 
@@ -29,8 +30,9 @@ void KeepProjectFolder(Session& session, const std::string& path) {
   const std::string folder = ReturnFolder(path);
   session.project.ProjectFolder = folder;
   session.folders.LastFolder = folder;
-  session.settings.SetIniValue(setting::kDirPath, folder);
-  session.settings.SetIniValue(setting::kProjFolder, folder);
+  Procedure procedure(session, "Open_Save", "KeepProjectFolder");
+  procedure.Step(20, [&] { session.settings.SetIniValue(setting::kDirPath, folder); });
+  procedure.Step(30, [&] { session.settings.SetIniValue(setting::kProjFolder, folder); });
 }
 
 }  // namespace zeb

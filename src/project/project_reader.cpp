@@ -201,7 +201,7 @@ void StoreFirstVersion(Session& session) {
 
 bool ReadProjectFile(Session& session) {
   const std::string path = RealProjectPath(session);
-  MakeBackup(session, path, kBackupExtension, false);
+  BackUpFile(session, path);
   AnnounceReading(session);
   EraseBeforeReading(session.project);
   const std::optional<int> lines = ReadFileLines(session, path);

@@ -200,7 +200,7 @@ bool SaveProject(Session& session, SaveMode mode, const std::string& path) {
   Shell& shell = session.platform.shell;
   shell.SetBusyPointer(true);
   const std::string target = path.empty() ? RealProjectPath(session) : path;
-  MakeBackup(session, target, kBackupExtension, false);
+  BackUpFile(session, target);
   const bool saved = RunFileStatement(session, "Open_Save.SaveProject", 50, [&] {
     WriteFileSafely(session.platform.files, target, ProjectFileText(session, mode));
   });

@@ -68,7 +68,7 @@ void Fsav(Session& session) {
   Project& project = session.project;
   project.AutoSavePending = 1;
   if (project.ProjectPath != kUntitled) {
-    MakeBackup(session, RealProjectPath(session), kBackupExtension, false);
+    BackUpFile(session, RealProjectPath(session));
   }
   (void)CheckSaveChanges(session);
   project.AutoSavePending = 0;  // the next question is asked again

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "project/project_bundle.h"
 #include "project/project_writer.h"
-#include "project/support_bundle.h"
 #include "services/dates.h"
 #include "services/number_text.h"
 #include "services/paths.h"

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "project/empty_tmp.h"
-#include "project/support_bundle.h"
+#include "project/project_bundle.h"
 #include "support/project_text.h"
 #include "support/test_session.h"
 

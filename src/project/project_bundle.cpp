@@ -1,4 +1,4 @@
-#include "project/support_bundle.h"
+#include "project/project_bundle.h"
 
 #include <string>
 
@@ -6,6 +6,7 @@
 #include "services/dates.h"
 #include "services/paths.h"
 #include "services/procedure.h"
+#include "services/support_bundle.h"
 #include "services/text.h"
 
 namespace zeb {
@@ -23,7 +24,7 @@ void savePrjDataToZIP(Session& session) {
   Procedure procedure(session, "Module3", "savePrjDataToZIP");
   procedure.Step(20, [&] { WriteProjectCopy(session, folder + name); });
   procedure.Step(30, [&] {
-    session.platform.archive.Write(folder + "ZEB_prj_err_dat.zip",
+    session.platform.archive.Write(folder + kProjectBundle,
                                    {{name, session.platform.files.ReadFile(folder + name)}}, "");
   });
 }

@@ -1,0 +1,148 @@
+#include "lifecycle/project_commands.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "lifecycle/closedown.h"
+#include "model/model_state.h"
+#include "project/project_writer.h"
+#include "support/networks.h"
+#include "support/test_session.h"
+
+namespace zeb {
+namespace {
+
+using test::TestSession;
+
+struct ProjectCommands : testing::Test, TestSession {
+  ProjectCommands() {
+    project.ProductName = "ZEB";
+    project.SaveFormat = 3;
+    files.Put("/jobs/job.zeb", test::ProjectFile({" 1 2 50 1.0 N"}));
+    files.Put("/prog/zeblast.txt", "old");
+  }
+  void OpenAndChange() {
+    OpenProjectFile(session, "/jobs/job.zeb");
+    project.DataChanged = 1;
+    dialogs.messages.clear();
+  }
+
+  Project& project = session.project;
+};
+
+TEST_F(ProjectCommands, NewStartsFromTheLibrary) {
+  OpenAndChange();
+  files.Put("/prog/Library/user.hcl",
+            "01 one\r\n   \r\n07 seven, longer than thirty characters\r\n");
+  dialogs.answers = {Answer::kNo};
+  Fnew(session);
+  EXPECT_EQ(project.ProjectPath, kUntitled);
+  EXPECT_EQ(project.LineCount, 0);
+  EXPECT_EQ(project.PipeLines[1], "");
+  EXPECT_EQ(project.HeaderOrigin, "");
+  EXPECT_EQ(project.HeadCodeCount, 2);
+  EXPECT_EQ(project.HeadCodeLines[2], "07 seven, longer than thirty characters");
+  EXPECT_EQ(project.NewProjectFlag, 1);
+  EXPECT_EQ(project.UndoSeq, 1);
+  EXPECT_EQ(project.UndoNames[1], "New ZEB Project... at 09:05:07");
+  EXPECT_EQ(shell.titles.back(), "ZEB Starting new ZEB Project file");
+  EXPECT_FALSE(shell.features[Feature::kDrawMenu]);
+  EXPECT_TRUE(shell.features[Feature::kUndo]);
+}
+
+TEST_F(ProjectCommands, AnEmptyLibraryGivesOneHeadCode) {
+  files.Put("/prog/Library/user.hcl", "\r\n  \r\n");
+  Fnew(session);
+  EXPECT_EQ(dialogs.Titles(), std::vector<std::string>{"Error: Head Codes"});
+  EXPECT_EQ(project.HeadCodeCount, 1);
+  EXPECT_EQ(project.HeadCodeLines[1], "01 15.0  80.00   0.50 STD1");
+}
+
+TEST_F(ProjectCommands, OpenReadsChecksAndRemembers) {
+  session.SuppressErrors = true;
+  files.PutFolder("/docs/My ZEB/Projects");
+  dialogs.open_answers = {"/jobs/job.zeb"};
+  Fopen(session);
+  EXPECT_EQ(dialogs.opens[0].title, "Open ZEB Project?");
+  EXPECT_EQ(dialogs.opens[0].filter, "ZEB Files|*.ZEB");
+  EXPECT_EQ(dialogs.opens[0].folder, "/docs/My ZEB/Projects");
+  EXPECT_EQ(project.ProjectPath, "/JOBS/JOB.ZEB");
+  EXPECT_EQ(project.LastProject, "/JOBS/JOB.ZEB");
+  EXPECT_EQ(project.ProjectFolder, "/jobs");
+  EXPECT_EQ(session.settings.GetIniValue(setting::kDirPath), "/jobs");
+  EXPECT_EQ(commands.checks, std::vector<CheckMode>{CheckMode::kComposeLines});
+  EXPECT_EQ(shell.recent_files, std::vector<std::string>{"/jobs/job.zeb"});
+  EXPECT_EQ(shell.panels[Panel::kErrors], "[OFF]");
+}
+
+TEST_F(ProjectCommands, AFileThatIsNoProjectIsNotChecked) {
+  files.Put("/jobs/bad.zeb", "me,now,001,3\r\n\r\n\r\n\r\na\r\nEND\r\n01 x\r\n");
+  OpenProjectFile(session, "/jobs/bad.zeb");
+  EXPECT_EQ(project.LineCount, 2);
+  EXPECT_TRUE(commands.checks.empty());
+}
+
+TEST_F(ProjectCommands, NothingReplacesAProjectThatCannotBeSaved) {
+  OpenAndChange();
+  files.SetReadOnly("/jobs");
+  for (auto* command : {&Fnew, &Fopen}) {
+    dialogs.open_answers = {"/jobs/job.zeb"};
+    dialogs.answers.assign(20, Answer::kCancel);
+    dialogs.answers.front() = Answer::kYes;
+    (*command)(session);
+    EXPECT_EQ(project.ProjectPath, "/JOBS/JOB.ZEB");
+    EXPECT_EQ(project.DataChanged, 1);
+  }
+  EXPECT_TRUE(dialogs.opens.empty());
+}
+
+TEST_F(ProjectCommands, TheWindowAsksForTheFirstPipeOfANewProjectOnce) {
+  project.ModelState = model_state::kRead;
+  project.NewProjectFlag = 1;
+  project.LineCount = 18;
+  EXPECT_TRUE(Form_Activate(session));
+  EXPECT_EQ(project.CommandMode, 1);
+  EXPECT_EQ(shell.panels[Panel::kMode], "ADD");
+  EXPECT_EQ(shell.panels[Panel::kHint], "Plan - No pipes yet specified");
+  EXPECT_FALSE(Form_Activate(session));
+  EXPECT_FALSE(shell.features.contains(Feature::kDrawMenu));
+  project.ModelState = model_state::kStale;
+  EXPECT_FALSE(Form_Activate(session));
+  EXPECT_FALSE(shell.features.at(Feature::kDrawMenu));
+}
+
+TEST_F(ProjectCommands, ClosingSavesAndWritesTheSessionOnce) {
+  OpenAndChange();
+  EXPECT_TRUE(closedown(session));
+  EXPECT_EQ(dialogs.Titles(), std::vector<std::string>{"Save ZEB Project Data"});
+  const std::string written = files.Bytes("/prog/zeblast.txt");
+  EXPECT_TRUE(written.starts_with(",,09:05,\r\n/JOBS/JOB.ZEB\r\n22/11/2026\r\n0\r\n"));
+
+  project.LastProject = "later";
+  project.DataChanged = 1;
+  EXPECT_TRUE(Fexit(session));
+  EXPECT_EQ(files.Bytes("/prog/zeblast.txt"), written);
+  EXPECT_EQ(dialogs.messages.size(), 1U);
+}
+
+TEST_F(ProjectCommands, ClosingEndsWhereTheUserWantsToStay) {
+  project.ProjectPath = kUntitled;
+  dialogs.answers = {Answer::kNo};
+  EXPECT_FALSE(Fexit(session));
+  EXPECT_EQ(project.ClosedownDone, 0);
+  EXPECT_EQ(files.Bytes("/prog/zeblast.txt"), "old");
+}
+
+TEST_F(ProjectCommands, ClosingMakesAMissingSessionFile) {
+  files.Remove("/prog/zeblast.txt");
+  EXPECT_TRUE(closedown(session));
+  ASSERT_EQ(dialogs.messages.size(), 1U);
+  EXPECT_EQ(dialogs.messages[0].text,
+            "Unable to find the ZEBLAST.TXT file ZEB cannot continue \r\n/prog/zeblast.txt");
+  EXPECT_TRUE(files.Has("/prog/zeblast.txt"));
+}
+
+}  // namespace
+}  // namespace zeb

@@ -6,16 +6,6 @@
 namespace zeb {
 namespace {
 
-std::vector<std::string> MatchesOf(FileSystem& files, const std::string& folder,
-                                   const std::string& name) {
-  std::vector<std::string> matches;
-  const std::string wanted = UpperCase(name);
-  for (const std::string& found : files.FileNames(folder)) {
-    if (UpperCase(found) == wanted) matches.push_back(found);
-  }
-  return matches;
-}
-
 bool UserAgrees(Dialogs& dialogs, const std::string& name, const std::string& match) {
   return dialogs.Show({.title = name,
                        .text = "Several files differ from this name only in upper and lower case. "
@@ -32,9 +22,15 @@ std::string FindFileNoCase(const Platform& platform, const std::string& folder,
                            const std::string& name) {
   std::string stated = AddBackSlash(folder) + name;
   if (platform.files.FileExists(stated)) return stated;
-  const std::vector<std::string> matches = MatchesOf(platform.files, folder, name);
+  const std::vector<std::string> matches = NamesNoCase(platform.files.FileNames(folder), name);
   const std::string agreed = AgreedFile(platform.dialogs, name, matches);
   return agreed.empty() ? stated : AddBackSlash(folder) + agreed;
+}
+
+std::vector<std::string> NamesNoCase(std::vector<std::string> names, const std::string& name) {
+  const std::string wanted = UpperCase(name);
+  std::erase_if(names, [&](const std::string& found) { return UpperCase(found) != wanted; });
+  return names;
 }
 
 std::string AgreedFile(Dialogs& dialogs, const std::string& name,

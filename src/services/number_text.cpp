@@ -7,7 +7,6 @@
 #include <cstddef>
 #include <cstdlib>
 #include <limits>
-#include <ranges>
 #include <system_error>
 
 #include "services/text.h"
@@ -100,7 +99,8 @@ std::string ExactDecimals(double value, int decimals) {
 
 // Adds one in the last place of a decimal text.
 void CountUp(std::string& number) {
-  for (char& digit : number | std::views::reverse) {
+  for (std::size_t place = number.size(); place > 0; --place) {
+    char& digit = number[place - 1];
     if (digit == '.') continue;
     if (digit != '9') {
       ++digit;

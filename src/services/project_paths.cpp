@@ -16,8 +16,8 @@ using Paths = std::vector<std::string>;
 Paths Matches(FileSystem& files, Names names, const Paths& folders, const std::string& name) {
   Paths matches;
   for (const std::string& folder : folders) {
-    for (const std::string& found : (files.*names)(folder)) {
-      if (UpperCase(found) == UpperCase(name)) matches.push_back(AddBackSlash(folder) + found);
+    for (const std::string& found : NamesNoCase((files.*names)(folder), name)) {
+      matches.push_back(AddBackSlash(folder) + found);
     }
   }
   return matches;

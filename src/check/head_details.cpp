@@ -3,6 +3,7 @@
 #include <array>
 
 #include "check/widen.h"
+#include "model/real_arithmetic.h"
 
 namespace zeb {
 namespace {
@@ -54,7 +55,8 @@ void SumUpHeads(CheckRun& run) {
   Project& project = run.project;
   OpenRanges(project);
   for (int head = 1; head <= run.heads; ++head) {
-    project.TotalHeadArea += project.HeadArea[head];
+    const double total = project.TotalHeadArea;
+    project.TotalHeadArea = RoundToSingle(total + project.HeadArea[head]);
     if (project.HeadCode[head] > 0.0F) WidenRanges(project, head);
   }
   if (project.MinHeadHeight == kBig) ClearRanges(project);

@@ -5,7 +5,9 @@
 #include "model/model_state.h"
 #include "project/head_codes.h"
 #include "project/pipe_data_reader.h"
+#include "project/project_writer.h"
 #include "services/number_text.h"
+#include "services/project_paths.h"
 #include "services/text.h"
 
 namespace zeb {
@@ -13,7 +15,6 @@ namespace {
 
 constexpr float kUsualStatic = 10.0F;  // m of head per bar
 constexpr int kNoHeadCode = 999;
-constexpr const char* kUntitled = "[Untitled]";
 
 void ClearReports(Project& project) {
   project.WarningText.clear();
@@ -71,11 +72,10 @@ void TakePipeData(CheckRun& run) {
 
 // " Size =", the size of the project's file in whole kB, and "kB"; empty when there is no file.
 std::string FileSizeText(Session& session) {
-  const std::string& stated = session.project.ProjectPath;
-  const auto real = session.RealPaths.find(stated);
-  const std::string& path = real != session.RealPaths.end() ? real->second : stated;
+  if (session.project.ProjectPath == kUntitled) return "";
   FileSystem& files = session.platform.files;
-  if (stated == kUntitled || !files.FileExists(path)) return "";
+  const std::string path = RealProjectPath(session);
+  if (!files.FileExists(path)) return "";
   return " Size =" + SignedText(static_cast<int>(files.FileSize(path) / 1024)) + "kB";
 }
 

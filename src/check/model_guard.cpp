@@ -10,10 +10,6 @@
 namespace zeb {
 namespace {
 
-constexpr int kMostPipes = 5019;
-constexpr int kMostHeads = 1500;
-constexpr int kMostLoops = 1000;
-
 constexpr std::array kGuardedFeatures = {
     Feature::kCalculateMenu, Feature::kAdd,  Feature::kNodeCopy, Feature::kSelectionCopy,
     Feature::kDisplayMenu,   Feature::kSave, Feature::kSaveAs};
@@ -42,12 +38,6 @@ std::string PassedLimits(const CheckRun& run) {
 }
 
 }  // namespace
-
-void SetModelLimits(Project& project) {
-  project.MaxPipes = kMostPipes;
-  project.MaxHeads = kMostHeads;
-  project.MaxLoops = kMostLoops;
-}
 
 void GuardModelSize(const CheckRun& run) {
   const std::string passed = PassedLimits(run);

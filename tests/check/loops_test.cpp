@@ -1,0 +1,101 @@
+#include "check_fixture.h"
+
+namespace zeb::test {
+namespace {
+
+struct Loops : CheckFixture {
+  // The signed pipes of one loop.
+  [[nodiscard]] std::vector<int> Loop(int loop) const {
+    std::vector<int> pipes;
+    for (int i = project.LoopFirst[loop]; i <= project.LoopLast[loop]; ++i) {
+      pipes.push_back(project.LoopPipes[i]);
+    }
+    return pipes;
+  }
+};
+
+TEST_F(Loops, ATreeHasNone) {
+  Check("1 2 50 2 E / 2 3 50 3 N / 2 4 50 4 E");
+  EXPECT_EQ(project.LoopCount, 0);
+  EXPECT_EQ(project.LoopListLength, 0);
+}
+
+TEST_F(Loops, ARingHoldsEachOfItsPipesOnceAndNotItsFeed) {
+  Check("1 2 50 2 E / 2 3 50 3 N / 3 4 50 4 E / 2 5 50 4 E / 5 4 50 3 N");
+  EXPECT_EQ(project.LoopCount, 1);
+  EXPECT_EQ(Loop(1), (std::vector{-5, -4, 2, 3}));
+  EXPECT_EQ(project.LoopListLength, 4);
+}
+
+TEST_F(Loops, AGridHasOneForEachClosingPipe) {
+  Check(
+      "1 2 50 2 E / 2 12 50 3 N / 2 3 50 4 E / 3 13 50 3 N / 12 13 50 4 E / 3 4 50 4 E / 4 14 50 3 "
+      "N / 13 14 50 4 E / 12 3 50 5 *126.87");
+  EXPECT_EQ(project.LoopCount, 3);
+  EXPECT_EQ(Loop(1), (std::vector{-5, -2, 3, 4}));
+  EXPECT_EQ(Loop(2), (std::vector{-8, -4, 6, 7}));
+  EXPECT_EQ(Loop(3), (std::vector{-9, -2, 3}));
+}
+
+TEST_F(Loops, APipeBackToItsOwnFeedIsALoopOfOne) {
+  Check("1 2 50 2 E / 7 2 50 2 E", CheckMode::kSilent);
+  EXPECT_EQ(Loop(1), std::vector{-2});
+}
+
+void Add(std::string& lines, int start, int end, const char* rest) {
+  lines += " / " + std::to_string(start) + ' ' + std::to_string(end) + rest;
+}
+
+// Two ways from each of a chain's nodes to the next, so many loops of three pipes.
+std::string Chain(int loops) {
+  std::string lines = "1 2 50 2 E";
+  for (int i = 1; i <= loops; ++i) {
+    Add(lines, 1 + i, 2 + i, " 50 2 E");
+    Add(lines, 1 + i, 3000 + i, " 50 1 N");
+    Add(lines, 3000 + i, 2 + i, " 50 2.236 *116.565");
+  }
+  return lines;
+}
+
+TEST_F(Loops, TheLastRowTakesEachFurtherLoopAndTheModelIsTooLarge) {
+  Check(Chain(1000));
+  EXPECT_EQ(project.LoopCount, 1000);
+  EXPECT_EQ(Loop(1000), (std::vector{-3001, -3000, 2999}));
+  EXPECT_TRUE(dialogs.messages.empty());
+  EXPECT_TRUE(shell.features[Feature::kSave]);
+
+  Check(Chain(1001));
+  EXPECT_TRUE(project.Faults.empty());
+  EXPECT_EQ(project.LoopCount, 1000);
+  EXPECT_EQ(project.LoopListLength, 3000);
+  EXPECT_EQ(Loop(1000), (std::vector{-3004, -3003, 3002}));
+  EXPECT_EQ(dialogs.Titles(), std::vector<std::string>{"System model size exceeded "});
+  EXPECT_FALSE(shell.features[Feature::kCalculateMenu]);
+  EXPECT_FALSE(shell.features[Feature::kSave]);
+}
+
+// A chain of 2855 pipes whose end closes loops of 2857 pipes.
+std::string LongLoops(int loops) {
+  constexpr int kChain = 2855;
+  std::string lines = "1 2 50 1 E";
+  for (int i = 1; i <= kChain; ++i) Add(lines, 1 + i, 2 + i, " 50 1 E");
+  for (int i = 1; i <= loops; ++i) {
+    Add(lines, 2, 5000 + i, " 50 1 E");
+    Add(lines, 2 + kChain, 5000 + i, " 50 1 E");
+  }
+  return lines;
+}
+
+TEST_F(Loops, TheListHolds19999PipesAndFailsAtTheNext) {
+  session.SuppressErrors = true;
+  Check(LongLoops(7));
+  EXPECT_EQ(project.LoopListLength, 19999);
+  EXPECT_EQ(project.ModelState, 2);
+
+  Check(LongLoops(8));
+  EXPECT_EQ(project.ModelState, 1);
+  EXPECT_EQ(dialogs.Titles(), std::vector<std::string>{"Error 9 at line 80 in loop finding part"});
+}
+
+}  // namespace
+}  // namespace zeb::test

@@ -23,10 +23,13 @@ enum class CalculationStage {
   kSummary,
 };
 
-// Runs the stages, each as a step of its own whose failures in real arithmetic are found, and knows
-// for the log which one was last begun.
+// Knows for the log which stage was last begun.
 class CalculationStages {
  public:
+  // Begins a stage in which windows are shown, whose own arithmetic is no concern here.
+  void Enter(CalculationStage stage) { stage_ = stage; }
+
+  // Runs a step of a stage and raises a failure for what went wrong in its real arithmetic.
   template <class Stage>
   void Run(CalculationStage stage, Stage run) {
     stage_ = stage;

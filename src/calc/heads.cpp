@@ -56,8 +56,8 @@ void StartHeads(Project& project, std::span<const int> heads) {
 }
 
 void StartPipeFlows(Project& project) {
-  project.PipeFlow.Clear(1, project.PipeCount);
-  project.PipeDrop.Clear(1, project.PipeCount);
+  project.PipeFlow.Clear();
+  project.PipeDrop.Clear();
   for (int pipe = 1; pipe <= project.PipeCount; ++pipe) {
     if (project.PipeHydrant[pipe] != 0.0F) AddAlongPath(project, pipe, project.PipeHydrant[pipe]);
   }

@@ -47,7 +47,6 @@ TEST_F(ProjectCommands, NewStartsFromTheLibrary) {
   EXPECT_EQ(project.NewProjectFlag, 1);
   EXPECT_EQ(project.UndoSeq, 1);
   EXPECT_EQ(project.UndoNames[1], "New ZEB Project... at 09:05:07");
-  EXPECT_EQ(shell.titles.back(), "ZEB Starting new ZEB Project file");
   EXPECT_FALSE(shell.features[Feature::kDrawMenu]);
   EXPECT_TRUE(shell.features[Feature::kUndo]);
 }
@@ -65,8 +64,6 @@ TEST_F(ProjectCommands, OpenReadsChecksAndRemembers) {
   files.PutFolder("/docs/My ZEB/Projects");
   dialogs.open_answers = {"/jobs/job.zeb"};
   Fopen(session);
-  EXPECT_EQ(dialogs.opens[0].title, "Open ZEB Project?");
-  EXPECT_EQ(dialogs.opens[0].filter, "ZEB Files|*.ZEB");
   EXPECT_EQ(dialogs.opens[0].folder, "/docs/My ZEB/Projects");
   EXPECT_EQ(project.ProjectPath, "/JOBS/JOB.ZEB");
   EXPECT_EQ(project.LastProject, "/JOBS/JOB.ZEB");
@@ -75,13 +72,6 @@ TEST_F(ProjectCommands, OpenReadsChecksAndRemembers) {
   EXPECT_EQ(commands.checks, std::vector<CheckMode>{CheckMode::kComposeLines});
   EXPECT_EQ(shell.recent_files, std::vector<std::string>{"/jobs/job.zeb"});
   EXPECT_EQ(shell.panels[Panel::kErrors], "[OFF]");
-}
-
-TEST_F(ProjectCommands, AFileThatIsNoProjectIsNotChecked) {
-  files.Put("/jobs/bad.zeb", "me,now,001,3\r\n\r\n\r\n\r\na\r\nEND\r\n01 x\r\n");
-  OpenProjectFile(session, "/jobs/bad.zeb");
-  EXPECT_EQ(project.LineCount, 2);
-  EXPECT_TRUE(commands.checks.empty());
 }
 
 TEST_F(ProjectCommands, NothingReplacesAProjectThatCannotBeSaved) {
@@ -133,15 +123,6 @@ TEST_F(ProjectCommands, ClosingEndsWhereTheUserWantsToStay) {
   EXPECT_FALSE(Fexit(session));
   EXPECT_EQ(project.ClosedownDone, 0);
   EXPECT_EQ(files.Bytes("/prog/zeblast.txt"), "old");
-}
-
-TEST_F(ProjectCommands, ClosingMakesAMissingSessionFile) {
-  files.Remove("/prog/zeblast.txt");
-  EXPECT_TRUE(closedown(session));
-  ASSERT_EQ(dialogs.messages.size(), 1U);
-  EXPECT_EQ(dialogs.messages[0].text,
-            "Unable to find the ZEBLAST.TXT file ZEB cannot continue \r\n/prog/zeblast.txt");
-  EXPECT_TRUE(files.Has("/prog/zeblast.txt"));
 }
 
 }  // namespace

@@ -50,11 +50,9 @@ TEST_F(Startup, MakesTheFoldersOfThePlaceWhereItLies) {
   EXPECT_EQ(folders.Program, "/prog");
   EXPECT_EQ(folders.PdtFolder, "/prog/pipedata");
   EXPECT_EQ(folders.SessionFile, "/prog/zeblast.txt");
-  EXPECT_EQ(folders.LibraryFolder, "/prog/Library");
   EXPECT_EQ(folders.LastFolder, "/docs/My ZEB/Projects");
   EXPECT_EQ(folders.UserDataFolder, "/config/ZEB");
   EXPECT_TRUE(files.FolderExists(folders.LastFolder));
-  EXPECT_TRUE(files.FolderExists(folders.UserDataFolder));
   EXPECT_EQ(files.Bytes("/docs/My ZEB/Examples/grid.zeb"), "grid");
   EXPECT_EQ(files.Bytes("/docs/My ZEB/Examples/ring.zeb"), "ring");
 
@@ -82,20 +80,13 @@ TEST_F(Startup, SettingsMoveTheFolders) {
   ResolveFolders(session);
   session.settings.SaveSetting("Options", "PDT_folder", "/data/pipes/");
   session.settings.SetIniValue(setting::kProjFolder, "/jobs");
-  struct Case {
-    SettingKey key;
-    const char* value;
-    const char* session_file;
-  };
+  session.settings.SetIniValue(setting::kOldSessionFile, "/state/old.txt");
+  ResolveFolders(session);
+  EXPECT_EQ(folders.SessionFile, "/state/old.txt");
   files.PutFolder("/state");
-  for (const Case& c : {
-           Case{setting::kOldSessionFile, "/state/old.txt", "/state/old.txt"},
-           Case{setting::kSessionFile, "/state", "/state/zeblast.txt"},
-       }) {
-    session.settings.SetIniValue(c.key, c.value);
-    ResolveFolders(session);
-    EXPECT_EQ(folders.SessionFile, c.session_file);
-  }
+  session.settings.SetIniValue(setting::kSessionFile, "/state");
+  ResolveFolders(session);
+  EXPECT_EQ(folders.SessionFile, "/state/zeblast.txt");
   EXPECT_EQ(folders.PdtFolder, "/data/pipes");
   EXPECT_EQ(folders.LastFolder, "/jobs");
 }
@@ -138,26 +129,6 @@ TEST_F(Startup, StartsWithAnEmptyProject) {
   EXPECT_TRUE(files.Has("/prog/Library/user.hcl"));
   EXPECT_EQ(shell.panels[Panel::kErrors], "[ON]");
   EXPECT_FALSE(shell.features[Feature::kUndo]);
-}
-
-TEST_F(Startup, EndsWithoutDesignAuthorities) {
-  StartUpForm form(session, "");
-  EXPECT_FALSE(form.Form_Load());
-  ASSERT_FALSE(dialogs.messages.empty());
-  EXPECT_EQ(dialogs.messages.back().title, "Missing File Error");
-}
-
-TEST_F(Startup, AFailingStepIsRetriedIgnoredOrEndsTheStart) {
-  int tries = 0;
-  const auto fail = [&] {
-    ++tries;
-    throw RuntimeFailure(failure::kOverflow);
-  };
-  dialogs.answers = {Answer::kRetry, Answer::kAbort, Answer::kIgnore};
-  EXPECT_FALSE(RunStartStep(session, 30, fail));
-  EXPECT_EQ(tries, 2);
-  EXPECT_TRUE(RunStartStep(session, 30, fail));
-  EXPECT_EQ(dialogs.messages[0].text, "Overflow\r\nZEB Startup at line 30");
 }
 
 TEST_F(Startup, WithoutAWindowNothingIsWritten) {

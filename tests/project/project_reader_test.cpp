@@ -43,17 +43,17 @@ struct ProjectReader : testing::Test, TestSession {
   Project& project = session.project;
 };
 
-TEST_F(ProjectReader, ReadsTheFormatInUse) {
-  const std::vector<std::string> lines = Joined(NumberedItems(), {" 1 2 50 1.0 N  ", "' note"});
-  Read({"ORIGIN,01/02/2003 04:05:06,00100000021,3", "user,computer", "", ""}, Joined(lines, kTail));
-  EXPECT_EQ(project.LineCount, 21);
+TEST_F(ProjectReader, LeavesAFreshProject) {
+  project.HeadOn[3] = 1;
+  project.PipeCount = 9;
+  Read({"ORIGIN,01/02/2003 04:05:06,00100000021,3", "user,computer", "", ""},
+       Joined(NumberedItems(), kTail));
+  EXPECT_EQ(project.LineCount, 19);
   EXPECT_EQ(project.PipeLines[18], "item 18");
-  EXPECT_EQ(project.PipeLines[19], "1 2 50 1.0 N");
-  EXPECT_EQ(project.PipeLines[21], "END");
   EXPECT_EQ(project.HeadCodeCount, 1);
-  EXPECT_EQ(project.HeadCodeLines[1], kTail[1]);
-  EXPECT_EQ(project.HeaderOrigin, "ORIGIN");
   EXPECT_EQ(project.HeaderStamp, "01/02/2003 04:05:06");
+  EXPECT_EQ(project.HeadOn[3], 0);
+  EXPECT_EQ(project.PipeCount, 0);
   EXPECT_EQ(project.ModelState, model_state::kRead);
   EXPECT_EQ(project.AddPipeTexts[8], "3");
   EXPECT_EQ(shell.titles.back(), "ZEB: JOB.ZEB");
@@ -62,41 +62,32 @@ TEST_F(ProjectReader, ReadsTheFormatInUse) {
   EXPECT_TRUE(dialogs.messages.empty());
 }
 
-// Every way to write the same eight lines.
+// The same lines under every header and with every line end. A lower-case end is no END.
 TEST_F(ProjectReader, TellsTheFormatsApart) {
   struct Case {
-    const char* name;
     std::vector<std::string> head;
     std::vector<std::string> expected;
   };
-  const std::vector<std::string> body{"a", "", " b", "   ", "c", "d", "e"};
-  const std::vector<std::string> kept{"a", "", "b", "", "c", "d", "e", "END"};
-  const std::vector<std::string> dropped{"a", "b", "", "c", "d", "e", "END"};
+  const std::vector<std::string> body = {"a", "", " b", "   ", "end"};
+  const std::vector<std::string> tail = {" END ", "", "01 one", "END", std::string(31, 'x')};
+  const std::vector<std::string> kept = {"a", "", "b", "", "end", "END"};
+  const std::vector<std::string> dropped = {"a", "b", "", "end", "END"};
   for (const Case& c : {
-           Case{"1", {"me,now,001,1"}, dropped},
-           Case{"2", {"me,now,001,2", "x", "y", "z"}, dropped},
-           Case{"3", {"me,now,001,3", "x", "y", "z"}, kept},
-           Case{"more than one character", {"me,now,001,3X", "x", "y", "z"}, kept},
-           Case{"more than four fields", {"me,now,001,3,4", "x", "y", "z"}, kept},
-           Case{"blanks and quotes", {R"( "me",now, 001, "3")", "x", "y", "z"}, kept},
-           Case{"header on four lines", {"me", "now", "001", "3", "x", "y", "z"}, kept},
+           Case{{"me,now,002,1"}, dropped},
+           Case{{"me,now,002,2", "x", "y", "z"}, dropped},
+           Case{{"me,now,002,3", "x", "y", "z"}, kept},
+           Case{{"me,now,002,3X", "x", "y", "z"}, kept},
+           Case{{"me,now,002,3,4", "x", "y", "z"}, kept},
+           Case{{R"( "me",now, 002, "3")", "x", "y", "z"}, kept},
+           Case{{"me", "now", "002", "3", "x", "y", "z"}, kept},
        }) {
-    Read(c.head, Joined(body, kTail));
-    EXPECT_EQ(Lines(), c.expected) << c.name;
-    EXPECT_EQ(project.HeaderOrigin, "me") << c.name;
-    EXPECT_EQ(project.HeadCodeLines[1], kTail[1]) << c.name;
-  }
-}
-
-TEST_F(ProjectReader, TakesAnyLineEnd) {
-  for (const char* end : {"\r\n", "\r", "\n"}) {
-    std::string bytes;
-    for (const char* line : {"me,now,001,3", "", "", "", "a", "", "b", "c", "d", "END"}) {
-      bytes.append(line).append(end);
+    for (const char* end : {"\r\n", "\r", "\n"}) {
+      Read(ReplaceAll(FileText(Joined(Joined(c.head, body), tail)), kLineBreak, end));
+      EXPECT_EQ(Lines(), c.expected) << c.head[0];
+      EXPECT_EQ(project.HeaderOrigin, "me") << c.head[0];
+      EXPECT_EQ(project.HeadCodeLines[1], "01 one                        ") << c.head[0];
+      EXPECT_EQ(project.HeadCodeLines[2], std::string(30, 'x')) << c.head[0];
     }
-    Read(bytes + "01 code");
-    EXPECT_EQ(Lines(), (std::vector<std::string>{"a", "", "b", "c", "d", "END"}));
-    EXPECT_EQ(project.HeadCodeLines[1], "01 code                       ");
   }
 }
 
@@ -114,17 +105,6 @@ TEST_F(ProjectReader, TranslatesOldAuthorityNames) {
   lines[4] = "AS2118.1, Standards Australia - Fire Sprinkler";
   Read({"me,now,001,2", "", "", ""}, Joined(lines, kTail));
   EXPECT_EQ(project.PipeLines[5], "AS2118.1 : Standards Australia - Fire Sprinkler");
-  Read({"me,now,001,3", "", "", ""}, Joined(lines, kTail));
-  EXPECT_EQ(project.PipeLines[5], lines[4]);
-}
-
-// Head codes behind END, and a second END that is none.
-TEST_F(ProjectReader, ReadsWhatStandsBehindTheEnd) {
-  Read({"me,now,002,3", "", "", ""},
-       {"a", "end", "  END  ", "", "01 one", "END", "", std::string(31, 'x')});
-  EXPECT_EQ(Lines(), (std::vector<std::string>{"a", "end", "END"}));
-  EXPECT_EQ(project.HeadCodeLines[1], "01 one                        ");
-  EXPECT_EQ(project.HeadCodeLines[2], std::string(30, 'x'));
 }
 
 TEST_F(ProjectReader, RefusesWhatItCannotRead) {
@@ -133,6 +113,7 @@ TEST_F(ProjectReader, RefusesWhatItCannotRead) {
     std::string bytes;
     const char* title;
   };
+  const std::string rest = "\r\n\r\n\r\n\r\na\r\nEND\r\n01\r\n";
   const std::string head = "me,now,001,3\r\n\r\n\r\n\r\n";
   std::string too_many_lines = head;
   for (int line = 0; line <= kLastLine; ++line) too_many_lines += "x\r\n";
@@ -140,16 +121,13 @@ TEST_F(ProjectReader, RefusesWhatItCannotRead) {
   for (int code = 0; code <= kLastHeadCode; ++code) too_many_codes += "x\r\n";
   for (const Case& c : {
            Case{"empty", "", "Disk File Error"},
-           Case{"header alone", "me,now,001,3", "Disk File Error"},
            Case{"ends behind END", head + "a\r\nEND\r\n", "Disk File Error"},
-           Case{"later version", "me,now,001,7\r\n\r\n\r\n\r\na\r\nEND\r\n1\r\n",
-                "File Error - Unknown file format"},
-           Case{"no version", "me,now,001,\r\n3 High Street\r\n",
-                "File Error - Unknown file format"},
-           Case{"no number", "me,now,x01,3\r\n\r\n\r\n\r\na\r\nEND\r\n1\r\n", "ZEB"},
-           Case{"too many lines", too_many_lines, "ZEB"},
-           Case{"too many head codes", too_many_codes, "ZEB"},
-           Case{"too many head codes told", "me,now,401,3\r\n\r\n\r\n\r\na\r\nEND\r\n1\r\n", "ZEB"},
+           Case{"version 7", "me,now,001,7" + rest, "File Error - Unknown file format"},
+           Case{"no version", "me,now,001,\r\n3 High Street", "File Error - Unknown file format"},
+           Case{"no number", "me,now,x01,3" + rest, "ZEB"},
+           Case{"many lines", too_many_lines, "ZEB"},
+           Case{"many head codes", too_many_codes, "ZEB"},
+           Case{"many head codes told", "me,now,401,3" + rest, "ZEB"},
            Case{"legacy without a library", "12:30,a,b,c\r\na\r\n", "Disk File Error"},
        }) {
     dialogs.messages.clear();
@@ -198,16 +176,6 @@ TEST_F(ProjectReader, ANewProjectHasNoFileToRead) {
   EXPECT_EQ(project.PipeLines[1], "typed");
   EXPECT_EQ(project.ModelState, model_state::kRead);
   EXPECT_TRUE(files.AllFiles().empty());
-}
-
-TEST_F(ProjectReader, RetriesOnlyTheStatementThatFailed) {
-  files.Put("/jobs/job.zeb", test::ProjectFile({}));
-  session.Backups = false;
-  files.FailAt(1, failure::kDiskNotReady);
-  dialogs.answers = {Answer::kRetry};
-  ReadProject(session);
-  EXPECT_EQ(project.LineCount, 19);
-  EXPECT_EQ(dialogs.Titles(), std::vector<std::string>{"Drive File Error"});
 }
 
 }  // namespace

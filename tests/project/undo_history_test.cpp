@@ -56,15 +56,6 @@ TEST_F(UndoHistory, ListsTheLastFiftyAndGoesBackToAnyOfThem) {
   EXPECT_EQ(shell.closed_forms, std::vector<std::string>{"frmUndo"});
 }
 
-TEST_F(UndoHistory, NewVersionsOverwriteThoseUndone) {
-  Store(1, 5);
-  UndoForm(session).lstUndo_DblClick(1);
-  Store(9, 9);
-  UndoForm form(session);
-  EXPECT_EQ(form.Rows, (std::vector<std::string>{"change 1 at 09:05:07", "change 2 at 09:05:07",
-                                                 "change 9 at 09:05:07"}));
-}
-
 // Versions 1 to 10 have given their slots to 51 to 60; what stands there comes back whole.
 TEST_F(UndoHistory, AnOverwrittenVersionComesBackAsTheOneThatTookItsPlace) {
   Store(1, 60);
@@ -91,15 +82,6 @@ TEST_F(UndoHistory, OneStepEndsAtTheFirstVersion) {
   EXPECT_EQ(commands.checks.size(), 2U);
 }
 
-TEST_F(UndoHistory, AnEmptyHistoryUndoesNothing) {
-  UndoForm form(session);
-  EXPECT_EQ(form.Selected, -1);
-  form.cmbUndo_Click();
-  FundoOneStep(session);
-  EXPECT_EQ(project.DataChanged, 0);
-  EXPECT_TRUE(commands.checks.empty());
-}
-
 TEST_F(UndoHistory, EveryFifthChangeSavesTheProject) {
   session.AutoSave = true;
   session.Backups = false;
@@ -121,13 +103,6 @@ TEST_F(UndoHistory, NothingIsSavedWithoutAFileOrWithAutomaticSavingOff) {
   Store(1, 12);
   EXPECT_EQ(project.AutoSaveCounter, 2);
   EXPECT_TRUE(files.AllFiles().empty());
-}
-
-TEST_F(UndoHistory, VerboseLoggingKeepsACopyForSupport) {
-  session.VerboseLogging = true;
-  Store(1, 1);
-  EXPECT_NE(files.Bytes("/prog/ZEB_error.log").find("change 1"), std::string::npos);
-  EXPECT_TRUE(archive.archives.contains("/prog/ZEB_prj_err_dat.zip"));
 }
 
 }  // namespace

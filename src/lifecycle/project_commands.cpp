@@ -4,6 +4,7 @@
 #include "project/fresh_project.h"
 #include "project/initial_head_codes.h"
 #include "project/open_project.h"
+#include "project/project_data_form.h"
 #include "project/project_location.h"
 #include "project/project_writer.h"
 #include "project/save_question.h"
@@ -51,9 +52,12 @@ void ShowUntitled(Session& session) {
   shell.ClearPicture();
 }
 
+// A new project whose items were just applied. The window may come to the front during the check
+// that follows or after it.
 bool IsNewlyApplied(const Project& project) {
-  return project.ModelState == model_state::kRead && project.NewProjectFlag == 1 &&
-         project.LineCount == kItemCount;
+  const bool reading =
+      project.ModelState == model_state::kRead || project.ModelState == model_state::kChecked;
+  return reading && project.NewProjectFlag == 1 && project.LineCount == kItemCount;
 }
 
 void AskForFirstPipe(Session& session) {
@@ -87,6 +91,7 @@ void Fnew(Session& session) {
   project.UndoDescription = "New ZEB Project...";
   Revert(session);
   FillNewHeadCodes(session);
+  ShowProjectData(session);
 }
 
 void Fopen(Session& session) {

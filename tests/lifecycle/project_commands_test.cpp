@@ -5,10 +5,13 @@
 #include <string>
 #include <vector>
 
+#include "check/check_project.h"
 #include "lifecycle/closedown.h"
 #include "model/model_state.h"
+#include "project/project_data_form.h"
 #include "project/project_writer.h"
 #include "support/networks.h"
+#include "support/small_pipe_data.h"
 #include "support/test_session.h"
 
 namespace zeb {
@@ -89,9 +92,12 @@ TEST_F(ProjectCommands, NothingReplacesAProjectThatCannotBeSaved) {
 }
 
 TEST_F(ProjectCommands, TheWindowAsksForTheFirstPipeOfANewProjectOnce) {
-  project.ModelState = model_state::kRead;
-  project.NewProjectFlag = 1;
-  project.LineCount = 18;
+  files.Put("/prog/pipedata/STD_PIPE.PDT", test::SmallPipeData().Text());
+  commands.on_check = [&](CheckMode mode) { CheckProject(session, mode); };
+  shell.OnForm<ProjectDataForm>("ZEBF02", [](ProjectDataForm& form) { form.cmdApply_Click(); });
+  Fnew(session);
+  EXPECT_EQ(project.LineCount, 18);
+  shell.features.clear();
   EXPECT_TRUE(Form_Activate(session));
   EXPECT_EQ(project.CommandMode, 1);
   EXPECT_EQ(shell.panels[Panel::kMode], "ADD");

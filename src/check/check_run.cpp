@@ -1,7 +1,5 @@
 #include "check/check_run.h"
 
-#include <utility>
-
 #include "model/real_arithmetic.h"
 #include "project/fault_report.h"
 #include "services/number_text.h"
@@ -26,7 +24,7 @@ void ReportCheckError(CheckRun& run, CheckFault fault) {
   ShowErrorPanel(run.session);
   const bool show_box = !run.session.SuppressErrors && run.mode != CheckMode::kSilent;
   ReportFault(run.session, SignedText(project.CheckErrorCount) + " in " + project.ProjectPath,
-              std::move(fault), show_box);
+              fault, show_box);
 }
 
 void TestStopFlag(const CheckRun& run) {

@@ -44,7 +44,7 @@ class LineOptions {
   void NoteCodeAt(std::size_t start);
 
   std::string_view line_;
-  std::array<std::size_t, kCount> starts_;
+  std::array<std::size_t, kCount> starts_{};
 };
 
 }  // namespace zeb

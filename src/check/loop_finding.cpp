@@ -1,6 +1,7 @@
 #include "check/loop_finding.h"
 
 #include <algorithm>
+#include <ranges>
 #include <vector>
 
 namespace zeb {
@@ -26,9 +27,7 @@ void FollowToMeeting(const Project& project, int closing, int first, LoopWays& w
 
 int WriteLoop(LoopTables& tables, const LoopWays& ways, int last) {
   for (const int pipe : ways.closing) tables.LoopPipes[++last] = -pipe;
-  for (auto pipe = ways.first.rbegin(); pipe != ways.first.rend(); ++pipe) {
-    tables.LoopPipes[++last] = *pipe;
-  }
+  for (const int pipe : std::views::reverse(ways.first)) tables.LoopPipes[++last] = pipe;
   return last;
 }
 

@@ -1,11 +1,11 @@
 #include "project/pipe_data_reader.h"
 
 #include <algorithm>
-#include <array>
 #include <string>
 #include <utility>
 
 #include "project/fault_report.h"
+#include "project/nfpa_type_rules.h"
 #include "services/field_reader.h"
 #include "services/find_file.h"
 #include "services/number_text.h"
@@ -40,7 +40,7 @@ class PipeDataReading {
     for (int valve = 1; valve <= valves_; ++valve) ReadValve(valve);
     for (int valve = 1; valve <= valves_; ++valve) ReadLpcLengths(valve);
     for (int valve = 1; valve <= valves_; ++valve) ReadNfpaLengths(valve);
-    if (UsesNfpaTables()) ApplyNfpaTypes();
+    if (UsesNfpaTables()) ApplyNfpaTypeRules(project_, types_);
   }
 
   void StoreCounts() {
@@ -64,8 +64,6 @@ class PipeDataReading {
   void ReadValve(int valve);
   void ReadLpcLengths(int valve);
   void ReadNfpaLengths(int valve);
-  void ApplyNfpaTypes();
-  void ApplyNfpaFactors(int type, const std::string& description);
 
   [[nodiscard]] bool UsesNfpaTables() const {
     return project_.RuleType == kRulesNfpa || project_.RuleType == kRulesFm;
@@ -267,44 +265,6 @@ void PipeDataReading::ReadNfpaLengths(int valve) {
                SignedText(project_.NominalSizes[0][size]) + " mm in the NFPA / FM Rules",
            "It should be in the range of 0 to 200 ft but this value will be used in the "
            "calculations if not changed.");
-  }
-}
-
-void PipeDataReading::ApplyNfpaTypes() {
-  for (int type = 1; type <= types_; ++type) {
-    const std::string description = UpperCase(TrimLeft(project_.PipeTypeDescriptions[type]));
-    const bool schedule40 =
-        project_.PipeTypeRefs[type] == "S40" || Contains(description, "SCHEDULE 40");
-    if (project_.RuleType == kRulesNfpa && schedule40) project_.Schedule40Type = type;
-    ApplyNfpaFactors(type, description);
-  }
-}
-
-// C and its factor under the NFPA and FM rules, for a material given with the C of the LPC rules.
-struct MaterialRule {
-  std::string_view word;
-  float from_c;
-  float to_c;
-  float factor;
-};
-
-constexpr std::array<MaterialRule, 5> kMaterialRules = {{
-    {"DUCTILE", 110.0F, 100.0F, 0.714F},
-    {"PVC", 140.0F, 150.0F, 1.49F},
-    {"PLASTIC", 140.0F, 150.0F, 1.49F},
-    {"CEMENT", 130.0F, 140.0F, 1.33F},
-    {"COPPER", 140.0F, 150.0F, 1.49F},
-}};
-
-void PipeDataReading::ApplyNfpaFactors(int type, const std::string& description) {
-  for (const MaterialRule& rule : kMaterialRules) {
-    if (!Contains(description, rule.word) || project_.TypeC[type] != rule.from_c) continue;
-    if (project_.TypeFileC[type] == 0.0F) {
-      project_.TypeFileC[type] = project_.TypeC[type];
-      project_.TypeFileFactor[type] = project_.TypeFittingFactor[type];
-    }
-    project_.TypeC[type] = rule.to_c;
-    project_.TypeFittingFactor[type] = rule.factor;
   }
 }
 

@@ -20,8 +20,6 @@ namespace {
 using test::SmallPipeData;
 using test::TestSession;
 
-constexpr const char* kDefaultNote = "Refer to listing of file or the user manual";
-
 struct PipeDataReader : testing::Test, TestSession {
   PipeDataReader() {
     session.project.PipeDataFile = "TEST.PDT";
@@ -43,117 +41,39 @@ struct PipeDataReader : testing::Test, TestSession {
   bool stop_at_fault = false;
 };
 
-struct FaultCase {
-  int line;
-  const char* text;
-  CheckFault fault;
-};
-
-// Each differs from the faultless file by one line.
-const std::vector<FaultCase>& FaultCases() {
-  static const std::vector<FaultCase> cases = {
-      {2,
-       "7,120,1.000,0.0460,1,MED,Steel medium",
-       {21, "Pipe type 1 of 2 = Steel medium",
-        "[Error 21] Sequence number is 7 and not the correct number of 1",
-        "Perhaps mistyped or one or more commas missed out in a previous line or this line is "
-        "just in the wrong place.",
-        kDefaultNote, ""}},
-      {3,
-       "2,150.5,1.330,0.0015,2,CU,Copper tube",
-       {22, "Pipe type 2 of 2 = Copper tube", "[Error 22] Hazen Williams 'C' factor is 150.5",
-        "This number is usually in the range of 90 to 150 but the entered value will be used in "
-        "the calculations if this pipe type is given in your current project.",
-        kDefaultNote, ""}},
-      {2,
-       "1,120,1.601,0.0460,1,MED,Steel medium",
-       {23, "Pipe type 1 of 2 = Steel medium",
-        "[Error 23] Correction factor for Hazen Williams 'C' factor of 120 is 1.601",
-        "This number is usually in the range of 0.7 to 1.5 but the entered value will be used in "
-        "the calculations if this pipe type is given in your current project.",
-        "The LPC Rules specify the following correction factors :-\r\n\r\n"
-        " HW 'C' = 100 Factor = 0.714  HW 'C' = 110 Factor = 0.850\r\n"
-        " HW 'C' = 120 Factor = 1.000  HW 'C' = 130 Factor = 1.160\r\n"
-        " HW 'C' = 140 Factor = 1.330  HW 'C' = 150 Factor = 1.490\r\n",
-        ""}},
-      {2,
-       "1,120,1.000,1,1,MED,Steel medium",
-       {24, "Pipe type 1 of 2 = Steel medium", "[Error 24] Roughness =  1.00000 mm",
-        "It must be in the range of 0.0001 to 0.99 mm",
-        "It has been changed to 0.046 to permit you to proceed.", ""}},
-      {2,
-       "1,120,1.000,0.0460,4,MED,Steel medium",
-       {24, "Pipe type 1 of 2 = Steel medium", "[Error 24] Nominal sizes line = 4",
-        "It must be 1, 2 or 3 to suit the corresponding list of nominal pipe sizes to match the "
-        "actual internal pipe diameters for this pipe type. ",
-        "It has been changed to 1 to permit you to proceed.", ""}},
-      {3,
-       "2,140,1.330,0.0015,2,COPP,Copper tube",
-       {25, "Pipe type 2 of 2 = Copper tube", "[Error 25] The abbreviated reference is COPP",
-        " It can only be 2 or 3 characters long to fit the column on the printout but the above "
-        "ref can be retained as required.",
-        kDefaultNote, ""}},
-      {6,
-       "32,63,62",
-       {26, "Nominal pipe sizes line number 3 of 3",
-        "[Error 26] The size of 62 is smaller than the previous size of 63 mm",
-        "The list must be in ascending order to match the table of equivalent lengths further in "
-        "this data file.",
-        kDefaultNote, ""}},
-      {8,
-       "26.20,70.3,0.00",
-       {27, "Pipe type 2 of 2 = Copper tube",
-        "[Error 27] Actual internal diameter (or bore) = 70.3 mm",
-        "This does not appear to match the corresponding nominal diameter of 54 mm",
-        "Perhaps mistyped or in the wrong position in the line but this value will be used in the "
-        "calculations for your current project if not changed.",
-        ""}},
-      {10,
-       "TEE,Equal tee",
-       {28, "Valve type 2 of 2 = TEE",
-        "[Error 28] This should be 2 characters long to fit the column on the printout",
-        "But the above reference can be retained if necessary.", kDefaultNote, ""}},
-      {11,
-       "0.77,-0.5,3.00",
-       {29, "Valve or Fitting type 1 of 2 = Elbow",
-        "[Error 29] Equivalent length =-0.5 m for 50 mm in the LPC Rules",
-        "It should be in the range of 0 to 200 m but this value will be used in the calculations "
-        "if not changed.",
-        kDefaultNote, ""}},
-      {14,
-       "5,10,200.5",
-       {29, "Valve or Fitting type 2 of 2 = Tee\r\n\r\n",
-        "[Error 29] Equivalent length = 200.5 ft for 100 mm in the NFPA / FM Rules",
-        "It should be in the range of 0 to 200 ft but this value will be used in the calculations "
-        "if not changed.",
-        kDefaultNote, ""}},
-  };
-  return cases;
+std::string BytesOf(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  std::ostringstream bytes;
+  bytes << file.rdbuf();
+  return bytes.str();
 }
 
-void ExpectFault(const CheckFault& fault, const CheckFault& expected) {
-  EXPECT_EQ(fault.number, expected.number);
-  EXPECT_EQ(fault.location, expected.location);
-  EXPECT_EQ(fault.problem, expected.problem);
-  EXPECT_EQ(fault.reason, expected.reason);
-  EXPECT_EQ(fault.correction, expected.correction);
+// What a fault says, in the order of the fixture.
+std::vector<std::string> TextsOf(const CheckFault& fault) {
+  return {std::to_string(fault.number), fault.location, fault.problem, fault.reason,
+          fault.correction};
 }
 
 TEST_F(PipeDataReader, ReportsEachFaultInItsWords) {
-  for (const FaultCase& fault_case : FaultCases()) {
-    SCOPED_TRACE(fault_case.text);
+  const std::vector<std::string> lines = SplitLines(BytesOf(ZEB_FIXTURES "/pipe_data_faults.txt"));
+  int cases = 0;
+  for (std::size_t at = 3; at + 5 < lines.size(); at += 7, ++cases) {
+    SCOPED_TRACE(lines[at]);
+    std::vector<std::string> texts(lines.begin() + at + 1, lines.begin() + at + 6);
+    for (std::string& text : texts) text = ReplaceAll(text, "\\n", "\r\n");
     project.Faults.clear();
     project.PipeDataErrorCount = 4;
     captions.clear();
-    Read(SmallPipeData().With(fault_case.line, fault_case.text));
+    Read(SmallPipeData().With(std::stoi(lines[at]), lines[at].substr(lines[at].find(' ') + 1)));
 
     ASSERT_EQ(project.Faults.size(), 1U);
-    ExpectFault(project.Faults[0], fault_case.fault);
-    EXPECT_EQ(project.ErrorCorrection, fault_case.fault.correction);
+    EXPECT_EQ(TextsOf(project.Faults[0]), texts);
+    EXPECT_EQ(project.ErrorCorrection, texts[4]);
     EXPECT_EQ(captions,
               std::vector<std::string>{"ZEB Warning No: 5 in Pipe / Fittings Data File TEST.PDT"});
     EXPECT_EQ(project.PipeSizeCount, 3);
   }
+  EXPECT_EQ(cases, 11);
 }
 
 TEST_F(PipeDataReader, TakesValuesOnTheLimitsAsGood) {
@@ -187,22 +107,16 @@ TEST_F(PipeDataReader, ReplacesOnlyRoughnessAndSizesLine) {
 
 TEST_F(PipeDataReader, EndsAtTheFaultWhereTheUserStops) {
   project.PipeTypeCount = 9;
-  project.ValveCount = 8;
   stop_at_fault = true;
+  Read(SmallPipeData().With(10, "TEE,Equal tee"), CheckMode::kSilent);  // has no box to stop at
+  EXPECT_TRUE(captions.empty());
+  EXPECT_EQ(project.PipeTypeCount, 2);
+
+  project.PipeSizeCount = 0;
   Read(SmallPipeData().With(2, "1,80,2,5,0,M,Steel medium"));
   EXPECT_EQ(captions.size(), 1U);
   EXPECT_EQ(project.StopFlag, kStopCheck);
-  EXPECT_EQ(project.PipeTypeCount, 9);
   EXPECT_EQ(project.PipeSizeCount, 0);
-  EXPECT_EQ(project.ValveCount, 8);
-}
-
-TEST_F(PipeDataReader, ShowsNoBoxInASilentCheck) {
-  stop_at_fault = true;
-  Read(SmallPipeData().With(10, "TEE,Equal tee"), CheckMode::kSilent);
-  EXPECT_TRUE(captions.empty());
-  EXPECT_EQ(project.Faults.size(), 1U);
-  EXPECT_EQ(project.ValveCount, 2);
 }
 
 TEST_F(PipeDataReader, PassesOverBoresWhenTheCommentsSaySo) {
@@ -214,11 +128,8 @@ TEST_F(PipeDataReader, PassesOverBoresWhenTheCommentsSaySo) {
 
 TEST_F(PipeDataReader, CountsOfZeroAreOne) {
   Read("a,b\n0,0,0\n1,120,1,0.046,1,MED,Steel\n25\n25\n25\n27.3\nEL,Elbow\n0.77\n2\n");
-  EXPECT_TRUE(project.Faults.empty());
-  EXPECT_EQ(project.PipeTypeCount, 1);
   EXPECT_EQ(project.PipeSizeCount, 1);
-  EXPECT_EQ(project.ValveCount, 1);
-  EXPECT_EQ(project.EqLengths[1][1], 0.77F);
+  EXPECT_EQ(project.EqLengthsNfpa[1][1], 2.0F);
 }
 
 // Lines of a value for each size.
@@ -257,12 +168,13 @@ TEST_F(PipeDataReader, HoldsAsManyRecordsAsItsTables) {
     EXPECT_EQ(project.PipeSizeCount, 30);
     EXPECT_EQ(project.ValveCount, 20);
   }
-  ExpectFault(project.Faults[0],
-              {20, "First line of file is incorrect",
-               "[Error 20] It should have 3 numbers separated by commas",
-               "1 = 50 Pipe Types  (Maximum = 30)\r\n2 = 30 Pipe Sizes  (Maximum = 20)\r\n"
-               "3 = 21 Valve Types (Maximum = 20)\r\n",
-               kDefaultNote, ""});
+  EXPECT_EQ(TextsOf(project.Faults[0]),
+            (std::vector<std::string>{
+                "20", "First line of file is incorrect",
+                "[Error 20] It should have 3 numbers separated by commas",
+                "1 = 50 Pipe Types  (Maximum = 30)\r\n2 = 30 Pipe Sizes  (Maximum = 20)\r\n"
+                "3 = 21 Valve Types (Maximum = 20)\r\n",
+                "Refer to listing of file or the user manual"}));
 }
 
 TEST_F(PipeDataReader, LineBreaksBetweenFieldsCarryNoMeaning) {
@@ -288,57 +200,48 @@ TEST_F(PipeDataReader, LineBreaksBetweenFieldsCarryNoMeaning) {
   }
 }
 
-TEST_F(PipeDataReader, TakesFittingLengthsOfTheRulesInForce) {
-  const std::map<int, float> in_force = {
-      {kRulesGeneral, 1.5F}, {kRulesNfpa, 1.524F}, {kRulesFm, 1.524F}};
-  for (const auto& [rule_type, metres] : in_force) {
-    project.RuleType = rule_type;
-    Read(SmallPipeData().Text());
-    EXPECT_EQ(project.EqLengths[1][2], metres) << rule_type;
+TEST_F(PipeDataReader, FollowsTheRulesInForce) {
+  struct Case {
+    int rule_type;
+    float metres;  // of 5 ft or 1.5 m
+    int schedule40_type;
+    float c;  // of copper at 140
+  };
+  for (const Case& rules : {Case{kRulesGeneral, 1.5F, 0, 140}, Case{kRulesNfpa, 1.524F, 1, 150},
+                            Case{kRulesFm, 1.524F, 0, 150}}) {
+    SCOPED_TRACE(rules.rule_type);
+    project.RuleType = rules.rule_type;
+    for (const char* line : {"1,120,1,0.046,1,S40,Steel", "1,120,1,0.046,1,ST, schedule 40"}) {
+      Read(SmallPipeData().With(2, line));
+      EXPECT_EQ(project.Schedule40Type, rules.schedule40_type) << line;
+    }
+    EXPECT_EQ(project.EqLengths[1][2], rules.metres);
     EXPECT_EQ(project.EqLengthsLpc[1][2], 1.5F);
-    EXPECT_EQ(project.EqLengthsNfpa[1][2], 5.0F);
+    EXPECT_EQ(project.TypeC[2], rules.c);
   }
 }
 
-TEST_F(PipeDataReader, ChangesCOfMaterialsUnderNfpaAndFmRules) {
+TEST_F(PipeDataReader, ChangesCOfMaterialsUnderNfpaRules) {
   struct Case {
-    std::string line;
-    float c;
+    const char* line;
     float new_c;
     float new_factor;
   };
   const std::vector<Case> cases = {
-      {"2,110,1.25,0.0015,2,CU,  ductile iron", 110, 100, 0.714F},
-      {"2,120,1.25,0.0015,2,CU,Ductile iron", 120, 120, 1.25F},
-      {"2,140,1.25,0.0015,2,CU,CPVC", 140, 150, 1.49F},
-      {"2,140,1.25,0.0015,2,CU,Plastic", 140, 150, 1.49F},
-      {"2,130,1.25,0.0015,2,CU,Cement lined", 130, 140, 1.33F},
-      {"2,140,1.25,0.0015,2,CU,Copper", 140, 150, 1.49F},
-      {"2,130,1.25,0.0015,2,CU,Copper", 130, 130, 1.25F},
-      {"2,140,1.25,0.0015,2,CU,Steel", 140, 140, 1.25F},
+      {"2,110,1.25,0.0015,2,CU,  ductile iron", 100, 0.714F},
+      {"2,120,1.25,0.0015,2,CU,Ductile iron", 120, 1.25F},
+      {"2,140,1.25,0.0015,2,CU,CPVC", 150, 1.49F},
+      {"2,140,1.25,0.0015,2,CU,Plastic", 150, 1.49F},
+      {"2,130,1.25,0.0015,2,CU,Cement lined", 140, 1.33F},
+      {"2,140,1.25,0.0015,2,CU,Copper", 150, 1.49F},
+      {"2,130,1.25,0.0015,2,CU,Copper", 130, 1.25F},
+      {"2,140,1.25,0.0015,2,CU,Steel", 140, 1.25F},
   };
+  project.RuleType = kRulesNfpa;
   for (const Case& material : cases) {
-    SCOPED_TRACE(material.line);
-    project.RuleType = kRulesGeneral;
     Read(SmallPipeData().With(3, material.line));
-    EXPECT_EQ(project.TypeC[2], material.c);
-    for (const int rule_type : {kRulesNfpa, kRulesFm}) {
-      project.RuleType = rule_type;
-      Read(SmallPipeData().With(3, material.line));
-      EXPECT_EQ(project.TypeC[2], material.new_c);
-      EXPECT_EQ(project.TypeFittingFactor[2], material.new_factor);
-    }
-  }
-}
-
-TEST_F(PipeDataReader, FindsSchedule40UnderNfpaRulesOnly) {
-  const std::map<int, int> expected = {{kRulesGeneral, 0}, {kRulesNfpa, 2}, {kRulesFm, 0}};
-  for (const char* line : {"2,120,1,0.046,1,S40,Steel", "2,120,1,0.046,1,ST,Steel schedule 40"}) {
-    for (const auto& [rule_type, type] : expected) {
-      project.RuleType = rule_type;
-      Read(SmallPipeData().With(3, line));
-      EXPECT_EQ(project.Schedule40Type, type) << line << " under rule type " << rule_type;
-    }
+    EXPECT_EQ(project.TypeC[2], material.new_c) << material.line;
+    EXPECT_EQ(project.TypeFittingFactor[2], material.new_factor) << material.line;
   }
 }
 
@@ -362,17 +265,7 @@ TEST_F(PipeDataReader, FindsItsFileWhateverTheCase) {
   EXPECT_EQ(dialogs.Titles(), std::vector<std::string>{"TEST.PDT"});
 }
 
-TEST_F(PipeDataReader, FallsBackToTheStandardFolder) {
-  project.ProjectFolder = "/projects";
-  project.StandardFolder = "/standard";
-  files.Put("/standard/TEST.PDT", SmallPipeData().Text());
-  Read("ZEB,12:00\r\n2,3,x");
-  EXPECT_TRUE(dialogs.messages.empty());
-  EXPECT_EQ(project.PipeDataPath, "/standard/TEST.PDT");
-  EXPECT_EQ(project.PipeTypeCount, 2);
-}
-
-TEST_F(PipeDataReader, FallsBackToTheStandardFile) {
+TEST_F(PipeDataReader, FallsBackToTheStandardFolderThenToTheStandardFile) {
   files.Put(session.folders.PdtFolder + "/STD_PIPE.PDT", SmallPipeData().Text());
   project.ProjectFolder = "/projects";
   const std::map<std::string, std::string> last_tried = {{"/projects", session.folders.PdtFolder},
@@ -389,6 +282,10 @@ TEST_F(PipeDataReader, FallsBackToTheStandardFile) {
     EXPECT_EQ(project.PipeDataFile, "STD_PIPE.PDT");
     EXPECT_EQ(project.PipeTypeCount, 2);
   }
+  files.Put("/standard/TEST.PDT", SmallPipeData().Text());
+  Read("ZEB,12:00\r\n2,3,x");
+  EXPECT_EQ(dialogs.messages.size(), 1U);
+  EXPECT_EQ(project.PipeDataPath, "/standard/TEST.PDT");
 }
 
 TEST_F(PipeDataReader, StopsTheCheckWithoutAnyFile) {
@@ -438,13 +335,6 @@ TEST_F(PipeDataReader, StopsTheCheckForATruncatedFile) {
     Read(whole.substr(0, length));
     EXPECT_EQ(project.StopFlag, kStopCheck) << length;
   }
-}
-
-std::string BytesOf(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  std::ostringstream bytes;
-  bytes << file.rdbuf();
-  return bytes.str();
 }
 
 TEST_F(PipeDataReader, ReadsTheShippedFilesWithoutAReport) {

@@ -25,11 +25,13 @@ TEST_F(PressureLoss, ShowsWhatTheFluidTextSays) {
   };
   const std::vector<Case> cases = {
       {"Water", "Hazen Williams", "", "", "Water"},
-      {"FOAM SG=1.1", "Hazen Williams", "", "", "Water"},
+      {"FOAM SG=1.1", "Hazen Williams", "", "", "FOAM SG=1.1"},
       {"DWF DENS=998 VISC=0.95", "Darcy-Weisbach", "21.1", "998", "DWF DENS=998 VISC=0.95"},
       {"dwf dens=995.4", "Darcy-Weisbach", "32.2", "995.4", "DWF DENS=995.4 VISC=0.74"},
       {"DWF DENS=1025 VISC=1.2", "Darcy-Weisbach", "", "1025", "DWF DENS=1025 VISC=1.2"},
       {"NFPA 750", "Darcy-Weisbach", "", "", "NFPA 750"},
+      {"NFPA 750 DENS=998 VISC=0.95", "Darcy-Weisbach", "21.1", "998",
+       "NFPA 750 DENS=998 VISC=0.95"},
   };
   for (const Case& shown : cases) {
     SCOPED_TRACE(shown.fluid);
@@ -43,7 +45,13 @@ TEST_F(PressureLoss, ShowsWhatTheFluidTextSays) {
   }
 }
 
-TEST_F(PressureLoss, WritesTheWaterOfATemperature) {
+TEST_F(PressureLoss, WritesWhatIsPicked) {
+  PressureLossForm back(session, "DWF DENS=998 VISC=0.95");
+  back.ComPLE = "Hazen Williams";
+  back.ComPLE_Click();
+  back.cmdOK_Click();
+  EXPECT_EQ(back.Fluid, "Water");
+
   PressureLossForm form(session, "Water");
   form.ComPLE = "Darcy-Weisbach";
   form.ComPLE_Click();

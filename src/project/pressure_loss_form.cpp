@@ -48,7 +48,7 @@ std::vector<std::string> PressureLossForm::Temperatures() {
 }
 
 PressureLossForm::PressureLossForm(Session& session, const std::string& fluid)
-    : ComPLE(kHazenWilliams), Fluid(fluid), session_(session) {
+    : ComPLE(kHazenWilliams), Fluid(fluid), session_(session), opened_(Chosen()) {
   if (ContainsNoCase(fluid, "NFPA 750") || ContainsNoCase(fluid, "DWF")) ShowTemperatureOf(fluid);
 }
 
@@ -56,6 +56,7 @@ void PressureLossForm::ShowTemperatureOf(const std::string& fluid) {
   ComPLE = kDarcyWeisbach;
   txtDensity = ValueText(fluid, "DENS=");
   txtViscosity = ValueText(fluid, "VISC=");
+  opened_ = Chosen();
   for (const Water& water : kWaters) {
     if (txtDensity.empty() || Val(txtDensity) != Val(water.density)) continue;
     ComWaterTemp = water.temperature;
@@ -81,10 +82,12 @@ void PressureLossForm::ComWaterTemp_Click() {
 }
 
 void PressureLossForm::cmdOK_Click() {
-  if (ComPLE != kDarcyWeisbach) {
+  const Choice chosen = Chosen();
+  const bool complete = !chosen.density.empty() && !chosen.viscosity.empty();
+  if (chosen != opened_ && chosen.equation != kDarcyWeisbach) {
     Fluid = kWater;
-  } else if (!Trim(txtDensity).empty() && !Trim(txtViscosity).empty()) {
-    Fluid = "DWF DENS=" + Trim(txtDensity) + " VISC=" + Trim(txtViscosity);
+  } else if (chosen != opened_ && complete) {
+    Fluid = "DWF DENS=" + chosen.density + " VISC=" + chosen.viscosity;
   }
   Accepted = true;
   session_.platform.shell.Close(*this);

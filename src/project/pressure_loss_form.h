@@ -5,6 +5,7 @@
 
 #include "platform/form.h"
 #include "services/session.h"
+#include "services/text.h"
 
 namespace zeb {
 
@@ -12,7 +13,8 @@ namespace zeb {
 // kg/m3, viscosity in centipoise.
 class PressureLossForm : public Form {
  public:
-  // Shows what the project's fluid text says.
+  // Shows what the project's fluid text says. OK keeps that text, with all else that it holds,
+  // when nothing was changed here.
   PressureLossForm(Session& session, const std::string& fluid);
 
   [[nodiscard]] std::string_view Name() const override { return "frmPLF"; }
@@ -35,9 +37,18 @@ class PressureLossForm : public Form {
   std::string Fluid;  // the text to use once accepted
 
  private:
+  struct Choice {
+    std::string equation;
+    std::string density;
+    std::string viscosity;
+    bool operator==(const Choice&) const = default;
+  };
+
   void ShowTemperatureOf(const std::string& fluid);
+  [[nodiscard]] Choice Chosen() const { return {ComPLE, Trim(txtDensity), Trim(txtViscosity)}; }
 
   Session& session_;
+  Choice opened_;
 };
 
 }  // namespace zeb

@@ -265,6 +265,13 @@ void ProjectDataForm::cmdCompact_Click() {
   ++changes_;
 }
 
+void ProjectDataForm::ShowStoredReferences(Item item) {
+  const std::string_view key = ItemOf(item).key;
+  if (key.empty()) return;
+  ResetReferencesForm references(session_, key);
+  session_.platform.shell.ShowModal(references);
+}
+
 void ShowProjectData(Session& session) {
   ProjectDataForm form(session);
   form.Form_Load();

@@ -27,6 +27,9 @@ class ProjectDataForm : public Form {
   void cmdDWF_Click();
   void cmdCompact_Click();
 
+  // Opens the form that empties an item's list; items without stored texts have none.
+  void ShowStoredReferences(Item item);
+
   // The text of an item; the supply's is picked in `Supplies`.
   [[nodiscard]] std::string& Field(Item item);
   // What an item's list offers.

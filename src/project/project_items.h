@@ -45,6 +45,8 @@ inline constexpr std::array<ProjectItem, kItemCount> kProjectItems = {{
 // What an empty item becomes: the pipe data file stays the present one.
 [[nodiscard]] std::string DefaultItemText(const Project& project, Item item);
 
+inline constexpr std::string_view kFluidTip =
+    "Specify fluid type WATER, FOAM, DRY (NFPA only) or NFPA 750";
 inline constexpr std::string_view kWater = "Water";
 inline constexpr std::string_view kHazenWilliams = "Hazen Williams";
 inline constexpr std::string_view kDarcyWeisbach = "Darcy-Weisbach";

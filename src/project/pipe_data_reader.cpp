@@ -116,10 +116,11 @@ void PipeDataReading::ReadCounts() {
   valves_ = AtLeastOne(fields_.Integer());
   if (types_ <= kLastPipeType && sizes_ <= kLastPipeSize && valves_ <= kLastValve) return;
 
+  const std::string counts = "1 =" + SignedText(types_) + " Pipe Types  (Maximum = 30)" + kLineEnd +
+                             "2 =" + SignedText(sizes_) + " Pipe Sizes  (Maximum = 20)" + kLineEnd +
+                             "3 =" + SignedText(valves_) + " Valve Types (Maximum = 20)" + kLineEnd;
   Report(20, "First line of file is incorrect", "It should have 3 numbers separated by commas",
-         "1 =" + SignedText(types_) + " Pipe Types  (Maximum = 30)" + kLineEnd +  //
-             "2 =" + SignedText(sizes_) + " Pipe Sizes  (Maximum = 20)" + kLineEnd +
-             "3 =" + SignedText(valves_) + " Valve Types (Maximum = 20)" + kLineEnd);
+         counts);
   types_ = std::min(types_, kLastPipeType);
   sizes_ = std::min(sizes_, kLastPipeSize);
   valves_ = std::min(valves_, kLastValve);

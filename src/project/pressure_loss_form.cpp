@@ -43,6 +43,7 @@ std::vector<std::string> PressureLossForm::Equations() {
 
 std::vector<std::string> PressureLossForm::Temperatures() {
   std::vector<std::string> temperatures;
+  temperatures.reserve(kWaters.size());
   for (const Water& water : kWaters) temperatures.emplace_back(water.temperature);
   return temperatures;
 }

@@ -18,7 +18,6 @@ class PressureLossForm : public Form {
   PressureLossForm(Session& session, const std::string& fluid);
 
   [[nodiscard]] std::string_view Name() const override { return "frmPLF"; }
-  [[nodiscard]] std::string_view Caption() const { return "Pressure Loss Equation  "; }
   [[nodiscard]] static std::vector<std::string> Equations();
   [[nodiscard]] static std::vector<std::string> Temperatures();
 
@@ -27,6 +26,7 @@ class PressureLossForm : public Form {
   void cmdOK_Click();
   void cmdCancel_Click();
 
+  std::string Caption = "Pressure Loss Equation  ";
   std::string ComPLE;
   std::string ComWaterTemp;
   std::string txtDensity;

@@ -33,9 +33,6 @@ class ResetReferencesForm : public Form {
   ResetReferencesForm(Session& session, std::string_view key);
 
   [[nodiscard]] std::string_view Name() const override { return "ZEBF18"; }
-  [[nodiscard]] std::string_view Caption() const {
-    return "Resetting of list of stored references";
-  }
   [[nodiscard]] std::vector<std::string> Rows() const;
 
   // Marks all texts of the key but the last as deleted.
@@ -43,6 +40,7 @@ class ResetReferencesForm : public Form {
   // Drops what is marked and writes the file.
   void Command1_Click();
 
+  std::string Caption = "Resetting of list of stored references";
   std::string FrameCaption;
 
  private:

@@ -121,21 +121,6 @@ void KeepDamagedFile(Session& session) {
   CopyFileSafely(session.platform.files, path, ChangeFileExt(path, "bak"));
 }
 
-// False without a file.
-bool ReadSessionFile(Session& session) {
-  FileSystem& files = session.platform.files;
-  if (!files.FileExists(session.folders.SessionFile)) {
-    ReportMissingFile(session);
-    return false;
-  }
-  Procedure procedure(session, "Startup", "ReadInZEBLast");
-  bool whole = false;
-  procedure.Step(10,
-                 [&] { whole = ReadState(session, files.ReadFile(session.folders.SessionFile)); });
-  if (!whole) procedure.Step(60, [&] { KeepDamagedFile(session); });
-  return true;
-}
-
 void WriteFirstLibrary(Session& session) {
   const Project& project = session.project;
   std::string text;
@@ -203,10 +188,29 @@ std::string SessionStateText(const Session& session) {
 
 }  // namespace
 
-void ReadInZEBLast(Session& session) {
+SessionFileState ReadSessionFile(Session& session) {
   session.project.SupplyCount = 0;
   session.project.HeadCodeCount = 0;
-  if (ReadSessionFile(session)) MakeLibrary(session);
+  FileSystem& files = session.platform.files;
+  if (!files.FileExists(session.folders.SessionFile)) {
+    ReportMissingFile(session);
+    return SessionFileState::kMissing;
+  }
+  Procedure procedure(session, "Startup", "ReadInZEBLast");
+  bool whole = false;
+  procedure.Step(10,
+                 [&] { whole = ReadState(session, files.ReadFile(session.folders.SessionFile)); });
+  return whole ? SessionFileState::kWhole : SessionFileState::kDamaged;
+}
+
+void ReadInZEBLast(Session& session) {
+  const SessionFileState state = ReadSessionFile(session);
+  if (state == SessionFileState::kMissing) return;
+  if (state == SessionFileState::kDamaged) {
+    Procedure procedure(session, "Startup", "ReadInZEBLast");
+    procedure.Step(60, [&] { KeepDamagedFile(session); });
+  }
+  MakeLibrary(session);
 }
 
 void WriteSessionState(Session& session) {

@@ -3,9 +3,9 @@
 #include <array>
 #include <cmath>
 
-#include "model/model_state.h"
 #include "services/number_text.h"
 #include "services/text.h"
+#include "view/view_modes.h"
 
 namespace zeb {
 namespace {

@@ -3,13 +3,13 @@
 #include <cstdlib>
 #include <vector>
 
+#include "calc/operating_heads.h"
 #include "model/model_state.h"
 #include "services/number_text.h"
 #include "services/text.h"
 #include "view/display_items.h"
 #include "view/drawing_settings.h"
 #include "view/pipe_drawing.h"
-#include "view/pointer_modes.h"
 #include "view/projection.h"
 #include "view/redraw_steps.h"
 #include "view/text_drawing.h"
@@ -92,7 +92,7 @@ void Redraw::CopyGeometry() {
 }
 
 void Redraw::DisableStaleMenus() {
-  if (project_.DataChanged <= 0 || project_.ModelState == model_state::kCalculated) return;
+  if (project_.DataChanged <= 0 || IsCalculated(project_)) return;
   session_.platform.shell.Enable(Feature::kDisplayMenu, false);
   session_.platform.shell.Enable(Feature::kPrintMenu, false);
 }
@@ -153,7 +153,7 @@ void Redraw::DrawMarkedNode() {
 // Picking goes on after a calculation that was given up. A head box that was drawn tells which way.
 void Redraw::ResumeHeadPicking() {
   if (project_.SelectedHeadsMode != 1 || project_.ModelState != model_state::kChecked) return;
-  project_.CommandMode = project_.HeadBoxY2 > 3.0F ? pointer_mode::kHeadBox : pointer_mode::kHead;
+  project_.CommandMode = project_.HeadBoxY2 > 3.0F ? kHeadBoxCommand : kPickHeadCommand;
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 
 #include <cmath>
 
-#include "model/model_state.h"
 #include "view/view_modes.h"
 
 namespace zeb {
@@ -53,7 +52,7 @@ void DrawLine(const Project& project, DrawingSurface& surface, int pipe) {
 }
 
 void LabelRemotestHead(const Project& project, DrawingSurface& surface, int pipe) {
-  if (project.ModelState == model_state::kCalculated && project.HeadCount > 1 &&
+  if (IsCalculated(project) && project.HeadCount > 1 &&
       project.PipeHead[pipe] == project.RemotestHead) {
     surface.Text(Offset(PictureEnd(project, pipe), 5, -16), "MRH");
   }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/model_state.h"
 #include "model/system_values.h"
 
 namespace zeb {
@@ -35,6 +36,10 @@ inline constexpr int kZoomed = 3;
 }
 [[nodiscard]] inline bool IsZoomed(const SystemValues& values) {
   return values.ZoomState == zoom::kZoomed;
+}
+
+[[nodiscard]] inline bool IsCalculated(const SystemValues& values) {
+  return values.ModelState == model_state::kCalculated;
 }
 
 // ZLimitOn is 1 while heights are free and 2 while they are restricted.

@@ -2,37 +2,58 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
 #include "support/recording_surface.h"
 #include "support/test_session.h"
+#include "view/draw_view.h"
+#include "view/view_modes.h"
 
 namespace zeb::test {
 
-// The end of a pipe and how it gets there.
-struct PipeSketch {
-  int upstream = 0;
-  int start_node = 0;
-  int end_node = 0;
-  float x = 0.0F;
-  float y = 0.0F;
-  float z = 0.0F;
-  float direction = 0.0F;
-  int size = 50;
-  int head = 0;
-};
+using Calls = std::vector<std::string>;
 
 // A session with a picture and a network set by hand. A redraw of the shell draws on the surface.
 class ViewTest : public ::testing::Test {
  protected:
-  ViewTest();
+  ViewTest() {
+    project_.ViewMode = 1;
+    project_.CommandMode = 7;
+    project_.ModelState = model_state::kChecked;
+    project_.WeldSize = 65;
+    project_.ViewTitle = "Plan";
+    shell_.on_redraw = [this] { Draw(); };
+  }
 
-  void AddPipe(const PipeSketch& sketch);
-  // A source at (0, 0, 0), then to (54, 0, 0), (54, 38, 0) and up to (54, 38, 6). On the plan a
-  // metre is 10 units both ways, and the source lies at (50, 430).
-  void AddCornerAndRiser();
-  void Draw();
+  void Draw() { DrawView(session_, surface_); }
+
+  // Adds the next pipe, behind `upstream`, to a point; nodes are one above the slots.
+  void AddPipe(int upstream, float x, float y, float z, float direction, int head = 0) {
+    const int pipe = ++project_.PipeCount;
+    project_.PipeUpstream[pipe] = upstream;
+    project_.PipeStartNode[pipe] = upstream + 1;
+    project_.PipeEndNode[pipe] = pipe + 1;
+    project_.PipeX[pipe] = x;
+    project_.PipeY[pipe] = y;
+    project_.PipeZ[pipe] = z;
+    project_.PipeDirection[pipe] = direction;
+    project_.PipeSize[pipe] = 50;
+    project_.PipeHead[pipe] = head;
+    project_.HeadPipe[head] = static_cast<float>(pipe);
+    project_.HeadCount = std::max(int{project_.HeadCount}, head);
+    project_.MaxX = std::max(project_.MaxX, x);
+    project_.MaxY = std::max(project_.MaxY, y);
+    project_.MaxZ = std::max(project_.MaxZ, z);
+  }
+  // A source at (0, 0, 0), then to (54, 0, 0), (54, 38, 0) and up to a head at (54, 38, 6). On the
+  // plan a metre is 10 units both ways, and the source lies at (50, 430).
+  void AddCornerAndRiser() {
+    AddPipe(0, 54, 0, 0, 90);
+    AddPipe(1, 54, 38, 0, 0);
+    AddPipe(2, 54, 38, 6, 999, 1);
+  }
 
   TestSession outside_;
   Session& session_ = outside_.session;
@@ -40,7 +61,5 @@ class ViewTest : public ::testing::Test {
   RecordingShell& shell_ = outside_.shell;
   RecordingSurface surface_;
 };
-
-using Calls = std::vector<std::string>;
 
 }  // namespace zeb::test

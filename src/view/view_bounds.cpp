@@ -32,6 +32,10 @@ ViewBounds WorkingBounds(const SystemValues& values) {
                                    .z_low = values.ZoomZ1,
                                    .z_high = values.ZoomZ2});
   }
+  return NetworkBounds(values);
+}
+
+ViewBounds NetworkBounds(const SystemValues& values) {
   return WidenedBy(NetworkMargin(values.MaxX), {.x_low = values.MinX,
                                                 .x_high = values.MaxX,
                                                 .y_low = values.MinY,

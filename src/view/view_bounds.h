@@ -15,9 +15,10 @@ struct ViewBounds {
   float z_high = 0.0F;
 };
 
-// The zoom box, or else the whole network, each with its margin. The width of the network alone
-// decides how wide the margin of an unzoomed view is.
+// The zoom box, or else the whole network, each with its margin.
 [[nodiscard]] ViewBounds WorkingBounds(const SystemValues& values);
+// The network's width alone decides how wide its margin is.
+[[nodiscard]] ViewBounds NetworkBounds(const SystemValues& values);
 
 // Whether the view shows a pipe at all. Height limits hide pipes in zoomed elevations and
 // isometrics; an isometric stays blank until a box that was begun is finished.

@@ -12,10 +12,10 @@
 
 #include "calc/calculation.h"
 #include "check/check_project.h"
+#include "growth_reporter.h"
 #include "project/project_reader.h"
 #include "project/project_writer.h"
 #include "project/undo_history.h"
-#include "growth_reporter.h"
 #include "support/networks.h"
 #include "support/project_session.h"
 

@@ -2,7 +2,7 @@
 
 #include "check/check_project.h"
 #include "check/compose_line.h"
-#include "view/pointer_modes.h"
+#include "view/pointer_command.h"
 
 namespace zeb {
 
@@ -10,6 +10,6 @@ void SessionCommands::CheckProject(CheckMode mode) { zeb::CheckProject(*session_
 
 void SessionCommands::ComposePipeLine(int pipe) { zeb::ComposePipeLine(*session_, pipe); }
 
-void SessionCommands::ViewCommandReset() { session_->project.CommandMode = pointer_mode::kView; }
+void SessionCommands::ViewCommandReset() { zeb::ViewCommandReset(*session_); }
 
 }  // namespace zeb

@@ -54,7 +54,6 @@ void FinishCheck(CheckRun& run) {
   run.session.platform.shell.SetPanel(Panel::kHint, "End of checking " + project.ProjectPath);
   if (project.WarningCount == 0 || run.mode == CheckMode::kSilent) return;
   SummaryForm form(run.session, SummaryOf::kCheck);
-  form.Form_Load();
   run.session.platform.shell.ShowModal(form);
 }
 

@@ -1,7 +1,6 @@
 #include "check/loop_finding.h"
 
 #include <algorithm>
-#include <ranges>
 #include <vector>
 
 namespace zeb {
@@ -23,11 +22,12 @@ void FollowToMeeting(const Project& project, int closing, int first, LoopWays& w
     (closing > first ? ways.closing : ways.first).push_back(later);
     later = project.PipeUpstream[later];
   }
+  std::reverse(ways.first.begin(), ways.first.end());  // a loop goes back along it
 }
 
 int WriteLoop(LoopTables& tables, const LoopWays& ways, int last) {
   for (const int pipe : ways.closing) tables.LoopPipes[++last] = -pipe;
-  for (const int pipe : std::views::reverse(ways.first)) tables.LoopPipes[++last] = pipe;
+  for (const int pipe : ways.first) tables.LoopPipes[++last] = pipe;
   return last;
 }
 

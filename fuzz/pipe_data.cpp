@@ -16,7 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                       std::string(reinterpret_cast<const char*>(data), size));
     session.session.project.PipeDataFile = "FUZZ.PDT";
     session.session.project.RuleType = rules;
-    zeb::ReadPipeData(session.session);
+    zeb::ReadPipeData(session.session, zeb::CheckMode::kSilent);
   }
   return 0;
 }

@@ -47,8 +47,8 @@ struct ProjectSession : TestSession {
 
   // Reads a project file and, if it is one, checks it. False when it is none.
   bool Open(const std::string& file_bytes) {
-    files.Put("/work/JOB.ZEB", file_bytes);
-    SetProjectFile(session, "/work/JOB.ZEB");
+    files.Put("/jobs/JOB.ZEB", file_bytes);
+    SetProjectFile(session, "/jobs/JOB.ZEB");
     ReadProject(session);
     if (session.project.LineCount <= kFewestLines) return false;
     CheckProject(session, CheckMode::kComposeLines);

@@ -46,17 +46,6 @@ bool AsksToTryAgain(Session& session) {
               .buttons = MessageButtons::kYesNo}) == Answer::kYes;
 }
 
-void NoPipesInBox(Session& session) {
-  Project& project = session.project;
-  if (AsksToTryAgain(session)) {
-    project.CommandMode = pointer_mode::kZoomBox;
-    project.ZoomState = zoom::kBoxAwaited;
-    return;
-  }
-  project.ZoomState = zoom::kNone;
-  ViewCommandReset(session);
-}
-
 void ShowZoomedPlan(Session& session) {
   Project& project = session.project;
   project.ViewMode = view::kPlan;
@@ -102,8 +91,19 @@ void ZoomToDraggedBox(Session& session) {
   if (any) {
     ShowZoomedPlan(session);
   } else {
-    NoPipesInBox(session);
+    AskForAnotherBox(session);
   }
+}
+
+void AskForAnotherBox(Session& session) {
+  Project& project = session.project;
+  if (AsksToTryAgain(session)) {
+    project.CommandMode = pointer_mode::kZoomBox;
+    project.ZoomState = zoom::kBoxAwaited;
+    return;
+  }
+  project.ZoomState = zoom::kNone;
+  ViewCommandReset(session);
 }
 
 Box ZoomBox(const SystemValues& values) {

@@ -16,6 +16,9 @@ void Vheight(Session& session);
 // drag another.
 void ZoomToDraggedBox(Session& session);
 
+// For a box without pipes: asks whether to drag a zoom box again, else ends the zoom.
+void AskForAnotherBox(Session& session);
+
 // The zoom box in the project, in picture units while it is dragged, then in m.
 [[nodiscard]] Box ZoomBox(const SystemValues& values);
 void StoreZoomBox(SystemValues& values, const Box& box);

@@ -1,6 +1,7 @@
 #include "services/form_position.h"
 
 #include <array>
+#include <cmath>
 
 #include "services/number_text.h"
 
@@ -18,6 +19,14 @@ constexpr std::array kStoredValues{
 
 const std::string kSection(setting::kFormPositionSection);
 
+// A damaged value counts as none.
+std::optional<int> PlaceOf(const std::string& text) {
+  constexpr double kFarthest = 32767.0;
+  const double value = Val(text);
+  if (!IsNumeric(text) || !(std::abs(value) <= kFarthest)) return std::nullopt;
+  return RoundToInt16(value);
+}
+
 }  // namespace
 
 void SaveFormPos(Settings& settings, const std::string& form, const FormPosition& position) {
@@ -30,8 +39,7 @@ void SaveFormPos(Settings& settings, const std::string& form, const FormPosition
 FormPosition LoadFormPos(Settings& settings, const std::string& form) {
   FormPosition position;
   for (const StoredValue& stored : kStoredValues) {
-    const std::string text = settings.GetSetting(kSection, form + stored.ending, "");
-    if (IsNumeric(text)) position.*stored.value = ValInt16(text);
+    position.*stored.value = PlaceOf(settings.GetSetting(kSection, form + stored.ending, ""));
   }
   return position;
 }

@@ -14,6 +14,8 @@ struct FormPosition {
   std::optional<int> left;
   std::optional<int> width;
   std::optional<int> height;
+
+  friend bool operator==(const FormPosition&, const FormPosition&) = default;
 };
 
 void SaveFormPos(Settings& settings, const std::string& form, const FormPosition& position);

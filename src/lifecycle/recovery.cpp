@@ -1,0 +1,121 @@
+#include "lifecycle/recovery.h"
+
+#include <functional>
+#include <vector>
+
+#include "project/open_project.h"
+#include "project/project_location.h"
+#include "project/project_reader.h"
+#include "project/project_writer.h"
+#include "services/dates.h"
+#include "services/file_writing.h"
+#include "services/paths.h"
+#include "services/project_paths.h"
+#include "services/text.h"
+
+namespace zeb {
+namespace {
+
+void Mix(std::size_t& hash, const std::string& text) {
+  hash = hash * 31 + std::hash<std::string>{}(text);
+}
+
+// The path of a project that was never saved.
+std::string PathOf(Session& session) {
+  return session.project.ProjectPath == kUntitled ? kUntitled : RealProjectPath(session);
+}
+
+}  // namespace
+
+std::string Recovery::CopyPath() const {
+  return AddBackSlash(session_.folders.UserDataFolder) + "recovery.zeb";
+}
+
+// The project's path and the time of the copy. It is written last, so that a copy with a note is
+// whole.
+std::string Recovery::NotePath() const {
+  return AddBackSlash(session_.folders.UserDataFolder) + "recovery.txt";
+}
+
+std::size_t Recovery::Content() const {
+  const Project& project = session_.project;
+  std::size_t hash = 17;
+  Mix(hash, project.ProjectPath);
+  for (int line = 1; line <= project.LineCount; ++line) Mix(hash, project.PipeLines[line]);
+  for (int code = 1; code <= project.HeadCodeCount; ++code) Mix(hash, project.HeadCodeLines[code]);
+  return hash;
+}
+
+void Recovery::Keep() {
+  const Project& project = session_.project;
+  if (project.DataChanged <= 0 || project.LineCount <= kFewestLines) {
+    if (kept_) Drop();
+    return;
+  }
+  const std::size_t content = Content();
+  if (kept_ && content == kept_content_) return;
+  kept_content_ = content;
+  kept_ = true;
+  try {
+    Write();
+  } catch (const RuntimeFailure& failure) {
+    session_.log.LogError({.text = failure.Description(), .source = "ZEB.Recovery.Keep"});
+  }
+}
+
+void Recovery::Write() {
+  WriteProjectCopy(session_, CopyPath());
+  const DateTime now = session_.platform.clock.Now();
+  WriteFileSafely(session_.platform.files, NotePath(),
+                  PathOf(session_) + std::string(kLineBreak) + DateText(now) + " " + TimeText(now) +
+                      std::string(kLineBreak));
+}
+
+bool Recovery::Offer() {
+  FileSystem& files = session_.platform.files;
+  if (!files.FileExists(NotePath()) || !files.FileExists(CopyPath())) return false;
+  std::vector<std::string> note = SplitLines(files.ReadFile(NotePath()));
+  note.resize(2);
+  const std::string gap = std::string(kLineBreak) + std::string(kLineBreak);
+  const bool wanted =
+      session_.platform.dialogs.Show({.title = "Recover lost changes",
+                                      .text = "ZEB was cut off. The changes of " + note[1] +
+                                              " to this project were not saved:" + gap + note[0] +
+                                              gap + "Do you wish to have them back?",
+                                      .icon = MessageIcon::kQuestion,
+                                      .buttons = MessageButtons::kYesNo}) == Answer::kYes;
+  if (wanted) {
+    Restore(note[0]);
+  } else {
+    Drop();
+  }
+  return wanted;
+}
+
+void Recovery::Restore(const std::string& project_path) {
+  Project& project = session_.project;
+  project.NewProjectFlag = 0;
+  SetProjectFile(session_, CopyPath());
+  DisableProjectMenus(session_.platform.shell);
+  ReadAndCheck(session_);
+  if (project_path == kUntitled) {
+    project.ProjectPath = kUntitled;
+  } else {
+    SetProjectFile(session_, project_path);
+    KeepProjectFolder(session_, project_path);
+  }
+  project.LastProject = project.ProjectPath;
+  project.DataChanged = 1;
+  session_.platform.shell.SetTitle(project.ProductName + ": " + ReturnFileName(project_path));
+  kept_content_ = Content();
+  kept_ = true;
+}
+
+void Recovery::Drop() {
+  kept_ = false;
+  FileSystem& files = session_.platform.files;
+  for (const std::string& path : {NotePath(), CopyPath()})
+    if (files.FileExists(path)) files.Remove(path);
+}
+
+}  // namespace zeb

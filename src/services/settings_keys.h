@@ -42,6 +42,7 @@ inline constexpr SettingKey kTextFontItalic{"Text", "FontItalic", "False"};
 inline constexpr SettingKey kReportTitleFont{"FONT", "Name", "Arial"};
 inline constexpr SettingKey kPdfLeftMargin{"TolvanPDF", "LeftMargin", "30"};
 inline constexpr SettingKey kBackground{"Display", "Background", "White"};
+inline constexpr SettingKey kTheme{"Display", "Theme", "System"};
 inline constexpr SettingKey kDefaultAuthority{"DesignAuth", "Default", ""};
 inline constexpr SettingKey kIdentifier{"Installation", "Identifier", ""};
 inline constexpr SettingKey kAutoSave{"Options", "AutoSave", "True"};

@@ -12,7 +12,7 @@ endfunction()
 function(zeb_library folder)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS;SYSTEM_LINKS")
   set(dir ${PROJECT_SOURCE_DIR}/src/${folder})
-  file(GLOB files CONFIGURE_DEPENDS ${dir}/*.cpp ${dir}/*.h)
+  file(GLOB files CONFIGURE_DEPENDS ${dir}/*.cpp ${dir}/*.h ${dir}/*.qrc)
   set(sources ${files})
   list(REMOVE_ITEM sources ${dir}/main.cpp)
 
@@ -64,10 +64,10 @@ function(zeb_test_support)
   target_link_libraries(zeb_test_support ${kind} GTest::gtest)
 endfunction()
 
-# zeb_tests(<folder> [LINKS folder...])
+# zeb_tests(<folder> [LINKS folder...] [SYSTEM_LINKS target...])
 # The program <folder>_tests of tests/<folder>, each of its tests known to CTest.
 function(zeb_tests folder)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS;SYSTEM_LINKS")
   file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/${folder}/*.cpp)
   if(NOT sources)
     return()
@@ -77,7 +77,7 @@ function(zeb_tests folder)
   target_compile_definitions(${folder}_tests
                              PRIVATE ZEB_FIXTURES="${PROJECT_SOURCE_DIR}/tests/${folder}/fixtures")
   zeb_link(${folder}_tests PRIVATE ${folder} ${arg_LINKS} test_support)
-  target_link_libraries(${folder}_tests PRIVATE GTest::gtest_main)
+  target_link_libraries(${folder}_tests PRIVATE GTest::gtest_main ${arg_SYSTEM_LINKS})
   # Tests may read the program folder and start the programs in it.
   add_dependencies(${folder}_tests program_folder)
   gtest_discover_tests(${folder}_tests TEST_PREFIX ${folder}/ DISCOVERY_MODE PRE_TEST

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "services/session.h"
+
+namespace zeb {
+
+void ShowAbout(Session& session);
+
+}  // namespace zeb

@@ -1,0 +1,80 @@
+#include "ui/status_panels.h"
+
+#include <QEvent>
+#include <QLabel>
+
+#include "ui/icons.h"
+#include "ui/shown_text.h"
+
+namespace zeb {
+namespace {
+
+struct PanelLook {
+  const char* widest;  // a text that must fit; the first panel takes what is left
+  const char* tip;
+};
+
+constexpr std::array<PanelLook, 7> kLooks{
+    {{"", ""},
+     {"P:5019 L:1000 H:1500 A:99999.9m2", "Pipes, loops, heads and their area"},
+     {"INTERACTIVE EDIT", "What a click on the drawing does"},
+     {"Front", "View"},
+     {"9999 : 9999", "Lowest and highest node"},
+     {"Err #: 999 [OFF]", "Errors of the last check. A click shows or hides their boxes."},
+     {"", "Green when the project is saved"}}};
+
+// A long hint must not make the window wider; it is cut and stands whole in its tip.
+class HintLabel final : public QLabel {
+ public:
+  using QLabel::QLabel;
+  [[nodiscard]] QSize minimumSizeHint() const override { return {0, QLabel::sizeHint().height()}; }
+};
+
+}  // namespace
+
+StatusPanels::StatusPanels(QWidget* parent) : QStatusBar(parent) {
+  for (int index = 0; index < kPanels; ++index) {
+    const PanelLook& look = kLooks.at(static_cast<std::size_t>(index));
+    auto* label = new HintLabel(this);
+    label->setObjectName(QStringLiteral("panel%1").arg(index + 1));
+    label->setToolTip(look.tip);
+    label->setTextFormat(Qt::PlainText);
+    const int widest = label->fontMetrics().horizontalAdvance(look.widest);
+    if (widest > 0) label->setMinimumWidth(widest + 8);
+    label->installEventFilter(this);
+    addPermanentWidget(label, index == 0 ? 1 : 0);
+    labels_.at(static_cast<std::size_t>(index)) = label;
+  }
+  LabelOf(Panel::kErrors).setCursor(Qt::PointingHandCursor);
+  LabelOf(Panel::kSaveState).setMinimumWidth(24);
+}
+
+QLabel& StatusPanels::LabelOf(Panel panel) const {
+  return *labels_.at(static_cast<std::size_t>(panel) - 1);
+}
+
+void StatusPanels::SetText(Panel panel, const std::string& text) {
+  LabelOf(panel).setText(ShownText(text));
+  if (panel == Panel::kHint) LabelOf(panel).setToolTip(ShownText(text));
+}
+
+void StatusPanels::SetTip(Panel panel, const std::string& text) {
+  LabelOf(panel).setToolTip(ShownText(text));
+}
+
+void StatusPanels::SetPicture(Panel panel, std::string_view picture) {
+  const int size = fontMetrics().height();
+  const QString name = ShownText(picture);
+  LabelOf(panel).setPixmap(ProgramIcon(name).pixmap(QSize(size, size), devicePixelRatioF()));
+  LabelOf(panel).setProperty("picture", name);
+}
+
+bool StatusPanels::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonPress)
+    for (int index = 0; index < kPanels; ++index)
+      if (watched == labels_.at(static_cast<std::size_t>(index)))
+        emit PanelClicked(static_cast<Panel>(index + 1));
+  return QStatusBar::eventFilter(watched, event);
+}
+
+}  // namespace zeb

@@ -1,0 +1,80 @@
+#include "ui/window_place.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <algorithm>
+
+#include "services/form_position.h"
+
+namespace zeb {
+namespace {
+
+// Whether the window filled the screen.
+constexpr char kMaximized[] = "Maximized";
+
+const std::string kSection(setting::kFormPositionSection);
+
+bool WasMaximized(Settings& settings, const std::string& form) {
+  return settings.GetSetting(kSection, form + kMaximized, "0") == "1";
+}
+
+// The screen that shows most of the rectangle.
+const QScreen* ScreenOf(const QRect& place) {
+  const QScreen* best = QGuiApplication::primaryScreen();
+  int most = 0;
+  for (const QScreen* screen : QGuiApplication::screens()) {
+    const QRect seen = screen->availableGeometry() & place;
+    const int area = seen.isEmpty() ? 0 : seen.width() * seen.height();
+    if (area > most) {
+      most = area;
+      best = screen;
+    }
+  }
+  return best;
+}
+
+// The rectangle made no larger than the screen and moved onto it.
+QRect OnScreen(QRect place) {
+  const QRect screen = ScreenOf(place)->availableGeometry();
+  place.setSize(place.size().boundedTo(screen.size()));
+  place.moveRight(std::min(place.right(), screen.right()));
+  place.moveBottom(std::min(place.bottom(), screen.bottom()));
+  place.moveLeft(std::max(place.left(), screen.left()));
+  place.moveTop(std::max(place.top(), screen.top()));
+  return place;
+}
+
+// What a window without an earlier place is centred on.
+QPoint Centre(const QWidget& window) {
+  const QWidget* parent = window.parentWidget();
+  if (parent != nullptr && parent->isVisible()) return parent->window()->frameGeometry().center();
+  return QGuiApplication::primaryScreen()->availableGeometry().center();
+}
+
+}  // namespace
+
+void RestorePlace(Settings& settings, QWidget& window, const std::string& form) {
+  const FormPosition stored = LoadFormPos(settings, form);
+  QSize size = window.size();
+  if (stored.width && stored.height)
+    size = QSize(*stored.width, *stored.height).expandedTo(window.minimumSizeHint());
+  QRect place(QPoint(0, 0), size);
+  place.moveCenter(Centre(window));
+  if (stored.left && stored.top) place.moveTopLeft({*stored.left, *stored.top});
+  place = OnScreen(place);
+  window.resize(place.size());
+  window.move(place.topLeft());
+  if (WasMaximized(settings, form)) window.setWindowState(Qt::WindowMaximized);
+}
+
+void KeepPlace(Settings& settings, const QWidget& window, const std::string& form) {
+  if (window.isMinimized()) return;
+  if (window.isMaximized() != WasMaximized(settings, form))
+    settings.SaveSetting(kSection, form + kMaximized, window.isMaximized() ? "1" : "0");
+  if (window.isMaximized()) return;
+  const FormPosition place{
+      .top = window.y(), .left = window.x(), .width = window.width(), .height = window.height()};
+  if (LoadFormPos(settings, form) != place) SaveFormPos(settings, form, place);
+}
+
+}  // namespace zeb

@@ -48,7 +48,8 @@ void ModalUser::Look() {
     ADD_FAILURE() << qPrintable(NameOf(*dialog)) << " stays open";
     dialog->done(QDialog::Rejected);
   });
-  Answer(*dialog);
+  // A timer rests while its slot runs, and the answer may bring up the next window.
+  QMetaObject::invokeMethod(dialog, [this, dialog] { Answer(*dialog); }, Qt::QueuedConnection);
 }
 
 void ModalUser::Answer(QDialog& dialog) {

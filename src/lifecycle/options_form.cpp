@@ -17,7 +17,7 @@ constexpr double kLargestNodeStep = 1000.0;
 
 struct StoredText {
   SettingKey key;
-  std::string OptionsForm::*text;
+  std::string OptionsForm::*text = nullptr;
 };
 
 constexpr std::array kTexts{
@@ -35,7 +35,7 @@ constexpr std::array kTexts{
 
 struct StoredFlag {
   SettingKey key;
-  bool OptionsForm::*flag;
+  bool OptionsForm::*flag = nullptr;
 };
 
 constexpr std::array kFlags{StoredFlag{setting::kTextFontBold, &OptionsForm::FontBold},

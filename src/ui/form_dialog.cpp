@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QSignalBlocker>
 #include <algorithm>
 #include <utility>
 
@@ -108,11 +109,12 @@ void FormDialog::Bind(QComboBox& list, std::string& text, const Entries& entries
     connect(&list, &QComboBox::activated, this, [&] { text = FromQt(list.currentText()); });
   }
   OnRefresh([&list, &text, entries] {
-    const std::string wanted = text;
+    // Filling the list changes its text for a moment, which is not an entry.
+    const QSignalBlocker quiet(&list);
     Fill(list, entries());
-    if (FromQt(list.currentText()) != wanted || (list.currentIndex() < 0) != wanted.empty())
-      list.setCurrentIndex(list.findText(ToQt(wanted), Qt::MatchExactly | Qt::MatchCaseSensitive));
-    if (list.isEditable()) list.setEditText(ToQt(wanted));
+    if (FromQt(list.currentText()) != text || (list.currentIndex() < 0) != text.empty())
+      list.setCurrentIndex(list.findText(ToQt(text), Qt::MatchExactly | Qt::MatchCaseSensitive));
+    if (list.isEditable()) list.setEditText(ToQt(text));
   });
 }
 

@@ -49,7 +49,8 @@ void ModalUser::Look() {
     dialog->done(QDialog::Rejected);
   });
   // A timer rests while its slot runs, and the answer may bring up the next window.
-  QMetaObject::invokeMethod(dialog, [this, dialog] { Answer(*dialog); }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(
+      dialog, [this, dialog] { Answer(*dialog); }, Qt::QueuedConnection);
 }
 
 void ModalUser::Answer(QDialog& dialog) {

@@ -53,4 +53,10 @@ endfunction()
 function(zeb_install)
   file(GLOB manuals CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/packaging/*.1)
   install(FILES ${manuals} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+  set(share ${CMAKE_INSTALL_DATADIR})
+  install(FILES ${PROJECT_SOURCE_DIR}/packaging/zeb.desktop DESTINATION ${share}/applications)
+  install(FILES ${PROJECT_SOURCE_DIR}/packaging/zeb-mime.xml DESTINATION ${share}/mime/packages
+          RENAME zeb.xml)
+  install(FILES ${PROJECT_SOURCE_DIR}/src/ui/icons/zeb.svg
+          DESTINATION ${share}/icons/hicolor/scalable/apps)
 endfunction()

@@ -2,6 +2,8 @@
 
 #include <QEvent>
 #include <QLabel>
+#include <QPainter>
+#include <QStyle>
 
 #include "ui/icons.h"
 #include "ui/shown_text.h"
@@ -28,6 +30,18 @@ class HintLabel final : public QLabel {
  public:
   using QLabel::QLabel;
   [[nodiscard]] QSize minimumSizeHint() const override { return {0, QLabel::sizeHint().height()}; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    if (text().isEmpty()) {
+      QLabel::paintEvent(event);
+      return;
+    }
+    QPainter painter(this);
+    const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, width());
+    style()->drawItemText(&painter, contentsRect(), Qt::AlignLeft | Qt::AlignVCenter, palette(),
+                          isEnabled(), shown, QPalette::WindowText);
+  }
 };
 
 }  // namespace

@@ -31,7 +31,9 @@ std::string PickText(const Project& project) {
          " heads = " + FormatDecimals(project.SelectedArea, 1) + " m2";
 }
 
+// The next redraw shows it again behind the view's title.
 void ShowPrompt(Session& session, const std::string& prompt) {
+  session.project.ViewHint = prompt;
   session.platform.shell.SetPanel(Panel::kHint, prompt);
 }
 

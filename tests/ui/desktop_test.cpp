@@ -155,6 +155,8 @@ TEST_F(DesktopTest, CalculatesPickedHeadsWithTheirSupply) {
   for (int head = first; head > first - 4; --head)
     Click(EndOf(static_cast<int>(TheProject().HeadPipe[head])));
   EXPECT_EQ(TheProject().SelectedHeadCount, 4);
+  Pick("Vpzout");
+  EXPECT_TRUE(PanelText(1).startsWith("Plan - 4 heads = 48.0 m2")) << qPrintable(PanelText(1));
   Pick("Ccall");
   EXPECT_EQ(TheProject().ModelState, model_state::kCalculated);
   EXPECT_TRUE(summary_.contains("Source Duty: ")) << qPrintable(summary_.left(300));

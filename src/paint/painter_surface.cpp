@@ -1,8 +1,19 @@
 #include "paint/painter_surface.h"
 
+#include <QPaintEngine>
+
 #include "paint/code_page.h"
 
 namespace zeb {
+namespace {
+
+// A line along an axis with its square ends. Filling it is much quicker than stroking it.
+QRectF Bar(const QLineF& line, qreal width) {
+  const qreal half = width / 2;
+  return QRectF(line.p1(), line.p2()).normalized().adjusted(-half, -half, half, half);
+}
+
+}  // namespace
 
 QColor ToQt(Colour colour) {
   const auto part = [&](int shift) { return static_cast<int>((colour.value >> shift) & 0xFFU); };
@@ -15,6 +26,7 @@ void PainterSurface::Begin(QPaintDevice& device, const QRectF& area,
   area_ = area;
   geometry_ = geometry;
   glyphs_.reset();
+  circles_.Clear();
   painter_.begin(&device);
   painter_.setClipRect(area);
 }
@@ -27,9 +39,14 @@ void PainterSurface::Clear(Colour background) { painter_.fillRect(area_, ToQt(ba
 
 void PainterSurface::Line(Point from, Point to, Pen pen) {
   const QLineF line(OnDevice(from), OnDevice(to));
+  const bool along_axis = line.dx() == 0 || line.dy() == 0;
   // Smoothing would blur the lines along the axes, and most pipes run so.
-  Use(pen, std::nullopt, line.dx() != 0 && line.dy() != 0);
-  painter_.drawLine(line);
+  Use(pen, std::nullopt, !along_axis);
+  if (along_axis && DrawsDots()) {
+    painter_.fillRect(Bar(line, pen.width), ToQt(pen.colour));
+  } else {
+    painter_.drawLine(line);
+  }
 }
 
 void PainterSurface::Box(Point corner, Point opposite, Pen pen, std::optional<Colour> fill) {
@@ -38,8 +55,13 @@ void PainterSurface::Box(Point corner, Point opposite, Pen pen, std::optional<Co
 }
 
 void PainterSurface::Circle(Point centre, float radius, Pen pen, std::optional<Colour> fill) {
-  Use(pen, fill, true);
+  constexpr qreal kLargestPicture = 64;
   const qreal dots = radius * area_.width() / kWidth;
+  if (DrawsDots() && dots <= kLargestPicture) {
+    circles_.Draw(painter_, OnDevice(centre), dots, pen, fill);
+    return;
+  }
+  Use(pen, fill, true);
   painter_.drawEllipse(OnDevice(centre), dots, dots);
 }
 
@@ -74,6 +96,10 @@ QPointF PainterSurface::OnDevice(Point point) const {
 
 QRectF PainterSurface::OnDevice(Point corner, Point opposite) const {
   return QRectF(OnDevice(corner), OnDevice(opposite)).normalized();
+}
+
+bool PainterSurface::DrawsDots() const {
+  return painter_.paintEngine()->type() == QPaintEngine::Raster;
 }
 
 void PainterSurface::Use(Pen pen, std::optional<Colour> fill, bool smooth) {

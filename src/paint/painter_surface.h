@@ -5,6 +5,7 @@
 #include <QRectF>
 #include <optional>
 
+#include "paint/circle_table.h"
 #include "paint/glyph_table.h"
 #include "platform/drawing_surface.h"
 
@@ -32,6 +33,7 @@ class PainterSurface : public DrawingSurface {
  private:
   [[nodiscard]] QPointF OnDevice(Point point) const;
   [[nodiscard]] QRectF OnDevice(Point corner, Point opposite) const;
+  [[nodiscard]] bool DrawsDots() const;
   void Use(Pen pen, std::optional<Colour> fill, bool smooth);
 
   QPainter painter_;
@@ -39,6 +41,7 @@ class PainterSurface : public DrawingSurface {
   PictureGeometry geometry_;
   std::optional<TextStyle> style_;
   std::optional<GlyphTable> glyphs_;
+  CircleTable circles_;
 };
 
 }  // namespace zeb

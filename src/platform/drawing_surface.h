@@ -32,6 +32,8 @@ struct Point {
 struct Pen {
   Colour colour;
   int width = 1;  // device dots
+
+  friend constexpr bool operator==(const Pen&, const Pen&) = default;
 };
 
 struct TextStyle {

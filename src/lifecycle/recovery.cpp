@@ -106,7 +106,8 @@ void Recovery::Restore(const std::string& project_path) {
   }
   project.LastProject = project.ProjectPath;
   project.DataChanged = 1;
-  session_.platform.shell.SetTitle(project.ProductName + ": " + ReturnFileName(project_path));
+  session_.platform.shell.SetTitle(project.ProductName + ": " +
+                                   ReturnFileName(project.ProjectPath));
   kept_content_ = Content();
   kept_ = true;
 }

@@ -9,8 +9,8 @@
 namespace zeb {
 namespace {
 
-constexpr int kColumns = 36;
-constexpr int kLines = 24;
+constexpr int kColumns = 42;
+constexpr int kLines = 26;
 
 }  // namespace
 

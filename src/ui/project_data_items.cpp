@@ -8,7 +8,6 @@
 
 #include "paint/code_page.h"
 #include "project/project_items.h"
-#include "project/stored_references.h"
 #include "ui/dialog_parts.h"
 #include "ui/project_data_dialog.h"
 #include "ui/shown_text.h"
@@ -149,10 +148,7 @@ QPushButton* ProjectDataDialog::StoredTextsButton() {
 }
 
 void ProjectDataDialog::ResetReferences(Item item) {
-  Run("cmdReset_Click", [this, item] {
-    ResetReferencesForm references(TheSession(), ItemOf(item).key);
-    TheSession().platform.shell.ShowModal(references);
-  });
+  Run("cmdReset_Click", [this, item] { form_.ShowStoredReferences(item); });
 }
 
 }  // namespace zeb

@@ -97,7 +97,9 @@ void QtShell::ShowModal(Form& form) {
 void QtShell::Open(Form& form) {
   std::unique_ptr<FormDialog> dialog = Make(form);
   if (!dialog) return;
-  RestorePlace(window_->TheUi().session.settings, *dialog, std::string(form.Name()));
+  const FirstPlace side = beside_.empty() ? FirstPlace::kRight : FirstPlace::kLeft;
+  RestorePlace(window_->TheUi().session.settings, *dialog, std::string(form.Name()),
+               dialog->isModal() ? FirstPlace::kCentre : side);
   dialog->show();
   beside_.push_back(std::move(dialog));
 }

@@ -11,6 +11,7 @@ namespace {
 
 // Whether the window filled the screen.
 constexpr char kMaximized[] = "Maximized";
+constexpr int kMargin = 40;  // dots
 
 const std::string kSection(setting::kFormPositionSection);
 
@@ -51,15 +52,23 @@ QPoint Centre(const QWidget& window) {
   return QGuiApplication::primaryScreen()->availableGeometry().center();
 }
 
+void MoveAside(QRect& place, const QWidget& window, FirstPlace side) {
+  if (window.parentWidget() == nullptr) return;
+  const QRect parent = window.parentWidget()->window()->frameGeometry();
+  if (side == FirstPlace::kLeft) place.moveLeft(parent.left() + kMargin);
+  if (side == FirstPlace::kRight) place.moveRight(parent.right() - kMargin);
+}
+
 }  // namespace
 
-void RestorePlace(Settings& settings, QWidget& window, const std::string& form) {
+void RestorePlace(Settings& settings, QWidget& window, const std::string& form, FirstPlace first) {
   const FormPosition stored = LoadFormPos(settings, form);
   QSize size = window.size();
   if (stored.width && stored.height)
     size = QSize(*stored.width, *stored.height).expandedTo(window.minimumSizeHint());
   QRect place(QPoint(0, 0), size);
   place.moveCenter(Centre(window));
+  MoveAside(place, window, first);
   if (stored.left && stored.top) place.moveTopLeft({*stored.left, *stored.top});
   place = OnScreen(place);
   window.resize(place.size());

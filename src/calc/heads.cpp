@@ -63,11 +63,14 @@ void StartPipeFlows(Project& project) {
   }
 }
 
+float HeightAboveSource(const Project& project, int head) {
+  return project.PipeZ[PipeOfHead(project, head)] - project.PipeZ[0];
+}
+
 void PushHeadFlowChanges(Project& project, std::span<const int> heads) {
   for (const int head : heads) {
-    const int pipe = PipeOfHead(project, head);
-    project.HeadHeight[head] = project.PipeZ[pipe] - project.PipeZ[0];
-    AddAlongPath(project, pipe, project.HeadFlowChange[head]);
+    project.HeadHeight[head] = HeightAboveSource(project, head);
+    AddAlongPath(project, PipeOfHead(project, head), project.HeadFlowChange[head]);
   }
 }
 

@@ -16,6 +16,9 @@ namespace zeb {
 [[nodiscard]] float HeadFlowAt(const Project& project, int head, float pressure);
 [[nodiscard]] float HeadPressureAt(const Project& project, int head, float flow);
 
+// In m, also before a calculation sets HeadHeight and for heads that do not operate.
+[[nodiscard]] float HeightAboveSource(const Project& project, int head);
+
 // Puts each head at the flow of its density, and outside the restart state at its minimum pressure
 // where that asks for more; HeadStartPressure keeps what the head requires. Adds the flows to
 // DesignFlow.

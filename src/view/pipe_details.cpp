@@ -5,6 +5,7 @@
 #include <cmath>
 #include <string_view>
 
+#include "calc/heads.h"
 #include "calc/pressure_loss.h"
 #include "services/number_text.h"
 #include "services/text.h"
@@ -104,7 +105,7 @@ void AddHeadResultLines(const Project& project, int head, DetailLines& lines) {
   lines.Number(" Flow rate: ", flow, 1, " L/min");
   lines.Number(" Act. dens: ", area > 0.0F ? flow / area : 0.0F, 2, " mm/min");
   lines.Number("  Pressure: ", project.HeadPressure[head], 3, " bar");
-  lines.Number("    Height: ", project.HeadHeight[head], 3, " m");
+  lines.Number("    Height: ", HeightAboveSource(project, head), 3, " m");
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <iterator>
 
+#include "calc/heads.h"
 #include "calc/pressure_loss.h"
 #include "services/number_text.h"
 #include "view/display_items.h"
@@ -70,7 +71,7 @@ Properties HeadRows(const Project& project, int head) {
   const float area = project.HeadArea[head];
   rows.push_back({"Flow)", FormatDecimals(flow, 2), "l/min"});
   rows.push_back({"Area", FormatDecimals(area, 2), "m2"});
-  rows.push_back({"Height", FormatDecimals(project.HeadHeight[head], 3), "m"});
+  rows.push_back({"Height", FormatDecimals(HeightAboveSource(project, head), 3), "m"});
   if (flow > 0.0F && area > 0.0F) {
     rows.push_back({"Atl dens - (Reqd. dens)",
                     ActualAndWanted(flow / area, project.HeadDensity[head], 1), "mm/min"});

@@ -37,7 +37,6 @@ class InspectionTest : public ViewTest {
     project_.HeadMinPress[1] = 0.35F;
     project_.HeadFlow[1] = 112.5F;
     project_.HeadArea[1] = 12;
-    project_.HeadHeight[1] = 6;
     project_.HeadDensity[1] = 5;
     Draw();
     surface_.calls.clear();

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabWidget>
@@ -164,6 +165,39 @@ TEST_F(DesktopTest, CalculatesPickedHeadsWithTheirSupply) {
   summary_.clear();
   Pick("Dcalc");
   EXPECT_FALSE(summary_.isEmpty());
+}
+
+TEST_F(DesktopTest, CalculatesTheDemandWithoutASupply) {
+  AcceptCalculation();
+  user.On("frmCalc", [](QDialog& form) {
+    auto* supply = form.findChild<QComboBox*>("ComWaterSupply");
+    supply->setCurrentIndex(0);
+    emit supply->activated(0);
+    form.findChild<QPushButton*>("OK")->click();
+  });
+  Start(Example("dwelling.zeb"));
+  Pick("Ccall");
+  EXPECT_EQ(TheProject().ModelState, model_state::kCalculated);
+  EXPECT_FALSE(summary_.contains("Balanced to")) << qPrintable(summary_.left(300));
+  EXPECT_EQ(TheProject().PipeLines[10], "None");
+  EXPECT_NEAR(TheProject().SumHeadFlow, TheProject().SourceFlow, 0.5);
+}
+
+TEST_F(DesktopTest, OpensAProjectThatIsDroppedOnIt) {
+  Start();
+  QMimeData file;
+  const auto drop = [&](const QString& path) {
+    file.setUrls({QUrl::fromLocalFile(path)});
+    QDragEnterEvent enter({50, 50}, Qt::CopyAction, &file, Qt::LeftButton, {});
+    QApplication::sendEvent(&Window(), &enter);
+    if (!enter.isAccepted()) return;
+    QDropEvent dropped({50, 50}, Qt::CopyAction, &file, Qt::LeftButton, {});
+    QApplication::sendEvent(&Window(), &dropped);
+  };
+  drop("/etc/hostname");
+  EXPECT_EQ(TheProject().PipeCount, 0);
+  drop(QString::fromStdString(Example("ring_main.zeb")));
+  EXPECT_EQ(TheProject().PipeCount, 46);
 }
 
 TEST_F(DesktopTest, PicksHeadsByABox) {

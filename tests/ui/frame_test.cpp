@@ -131,6 +131,8 @@ struct PlaceCase {
   const char* top;
   const char* width;
   const char* height;
+
+  friend void PrintTo(const PlaceCase& stored, std::ostream* out) { *out << stored.name; }
 };
 
 class WindowPlaceTest : public WindowFixture, public testing::WithParamInterface<PlaceCase> {};

@@ -7,6 +7,7 @@
 #include <QMessageBox>
 #include <array>
 
+#include "model/real_arithmetic.h"
 #include "paint/code_page.h"
 #include "ui/code_page_guard.h"
 #include "ui/shown_text.h"
@@ -101,6 +102,7 @@ QString NameFilter(const std::string& filter) {
 }
 
 std::string PickFile(const FileDialog& request, QFileDialog::AcceptMode mode) {
+  const KeepRealArithmeticFlags keep;
   QFileDialog dialog(WindowInFront(), ShownText(request.title), PathToQt(request.folder));
   dialog.setAcceptMode(mode);
   dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile
@@ -117,6 +119,7 @@ std::string PickFile(const FileDialog& request, QFileDialog::AcceptMode mode) {
 }  // namespace
 
 Answer QtDialogs::Show(const Message& message) {
+  const KeepRealArithmeticFlags keep;
   QMessageBox box(WindowInFront());
   box.setWindowTitle(ShownText(message.title));
   box.setTextFormat(Qt::PlainText);
@@ -130,6 +133,7 @@ Answer QtDialogs::Show(const Message& message) {
 
 std::optional<std::string> QtDialogs::Input(const std::string& title, const std::string& prompt,
                                             const std::string& initial) {
+  const KeepRealArithmeticFlags keep;
   QInputDialog dialog(WindowInFront());
   dialog.setWindowTitle(ShownText(title));
   dialog.setLabelText(ShownText(prompt));

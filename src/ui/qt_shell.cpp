@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <algorithm>
 
+#include "model/real_arithmetic.h"
 #include "ui/form_registry.h"
 #include "ui/main_window.h"
 #include "ui/shown_text.h"
@@ -20,47 +21,53 @@ void QtShell::Attach(MainWindow* window) {
   beside_.clear();
 }
 
+void QtShell::OnWindow(const std::function<void(MainWindow&)>& action) {
+  const KeepRealArithmeticFlags keep;
+  if (window_ != nullptr) action(*window_);
+}
+
 void QtShell::SetPanel(Panel panel, const std::string& text) {
-  if (window_ != nullptr) window_->Panels().SetText(panel, text);
+  OnWindow([&](MainWindow& window) { window.Panels().SetText(panel, text); });
 }
 
 void QtShell::SetPanelTip(Panel panel, const std::string& text) {
-  if (window_ != nullptr) window_->Panels().SetTip(panel, text);
+  OnWindow([&](MainWindow& window) { window.Panels().SetTip(panel, text); });
 }
 
 void QtShell::SetPanelPicture(Panel panel, std::string_view picture) {
-  if (window_ != nullptr) window_->Panels().SetPicture(panel, picture);
+  OnWindow([&](MainWindow& window) { window.Panels().SetPicture(panel, picture); });
 }
 
 void QtShell::SetTitle(const std::string& title) {
-  if (window_ != nullptr) window_->setWindowTitle(ShownText(title));
+  OnWindow([&](MainWindow& window) { window.setWindowTitle(ShownText(title)); });
 }
 
 void QtShell::SetBusyPointer(bool busy) {
-  if (window_ != nullptr) window_->SetBusyPointer(busy);
+  OnWindow([&](MainWindow& window) { window.SetBusyPointer(busy); });
 }
 
 void QtShell::SetPicturePointer(PicturePointer shape) {
-  if (window_ != nullptr) window_->SetPicturePointer(shape);
+  OnWindow([&](MainWindow& window) { window.SetPicturePointer(shape); });
 }
 
 void QtShell::Enable(Feature feature, bool enabled) {
-  if (window_ != nullptr) window_->Switches().Enable(feature, enabled);
+  OnWindow([&](MainWindow& window) { window.Switches().Enable(feature, enabled); });
 }
 
 void QtShell::ClearPicture() {
-  if (window_ != nullptr) window_->ClearPicture();
+  OnWindow([&](MainWindow& window) { window.ClearPicture(); });
 }
 
 void QtShell::Redraw() {
-  if (window_ != nullptr) window_->Redraw();
+  OnWindow([&](MainWindow& window) { window.Redraw(); });
 }
 
 void QtShell::ShowPanArrows(bool shown) {
-  if (window_ != nullptr) window_->Picture().ShowPanArrows(shown);
+  OnWindow([&](MainWindow& window) { window.Picture().ShowPanArrows(shown); });
 }
 
 int QtShell::ShowPopup(const std::vector<std::string>& entries, int ticked) {
+  const KeepRealArithmeticFlags keep;
   QMenu menu(window_);
   for (const std::string& entry : entries) menu.addAction(ShownText(entry))->setCheckable(true);
   const QList<QAction*> actions = menu.actions();
@@ -71,6 +78,7 @@ int QtShell::ShowPopup(const std::vector<std::string>& entries, int ticked) {
 void QtShell::Beep() { QApplication::beep(); }
 
 void QtShell::Yield() {
+  const KeepRealArithmeticFlags keep;
   // With a window beside the command its user can stop the command, and no other window answers.
   // Else only painting and the like goes on.
   const bool can_answer = std::ranges::any_of(
@@ -80,10 +88,11 @@ void QtShell::Yield() {
 }
 
 void QtShell::AddRecentFile(const std::string& path) {
-  if (window_ != nullptr) window_->AddRecentFile(path);
+  OnWindow([&](MainWindow& window) { window.AddRecentFile(path); });
 }
 
 void QtShell::ShowModal(Form& form) {
+  const KeepRealArithmeticFlags keep;
   const std::unique_ptr<FormDialog> dialog = Make(form);
   if (!dialog) return;
   Session& session = window_->TheUi().session;
@@ -95,6 +104,7 @@ void QtShell::ShowModal(Form& form) {
 }
 
 void QtShell::Open(Form& form) {
+  const KeepRealArithmeticFlags keep;
   std::unique_ptr<FormDialog> dialog = Make(form);
   if (!dialog) return;
   const FirstPlace side = beside_.empty() ? FirstPlace::kRight : FirstPlace::kLeft;
@@ -105,6 +115,7 @@ void QtShell::Open(Form& form) {
 }
 
 void QtShell::Close(Form& form) {
+  const KeepRealArithmeticFlags keep;
   FormDialog* dialog = WindowOf(form);
   if (dialog == nullptr) return;
   dialog->Finish();
@@ -118,12 +129,14 @@ void QtShell::Close(Form& form) {
 }
 
 void QtShell::CloseNamed(std::string_view name) {
+  const KeepRealArithmeticFlags keep;
   const auto found = std::ranges::find_if(
       shown_, [&](const FormDialog* dialog) { return dialog->ShownForm().Name() == name; });
   if (found != shown_.end()) (*found)->reject();
 }
 
 void QtShell::Refresh(Form& form) {
+  const KeepRealArithmeticFlags keep;
   if (FormDialog* dialog = WindowOf(form)) dialog->Refresh();
 }
 

@@ -14,7 +14,7 @@ namespace zeb {
 class MainWindow;
 
 // The main window and the forms' windows, as the core sees them. Before the main window is there,
-// what would be shown on it is dropped.
+// what would be shown on it is dropped. No call changes the flags of real arithmetic.
 class QtShell final : public Shell {
  public:
   QtShell();
@@ -45,6 +45,7 @@ class QtShell final : public Shell {
   void Refresh(Form& form) override;
 
  private:
+  void OnWindow(const std::function<void(MainWindow&)>& action);
   [[nodiscard]] std::unique_ptr<FormDialog> Make(Form& form);
   [[nodiscard]] FormDialog* WindowOf(const Form& form) const;
   void Forget(FormDialog* dialog);

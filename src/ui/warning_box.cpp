@@ -12,6 +12,8 @@
 namespace zeb {
 namespace {
 
+constexpr int kColumns = 76;
+
 struct Frame {
   const char* name;
   std::string WarningForm::*text;
@@ -34,11 +36,12 @@ WarningBox::WarningBox(const Ui& ui, WarningForm& form, QWidget* parent)
     auto* label = new QLabel(group);
     label->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     label->setWordWrap(true);
-    label->setMinimumWidth(label->fontMetrics().horizontalAdvance('0') * 76);
+    label->setFixedWidth(label->fontMetrics().horizontalAdvance('0') * kColumns);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     (new QVBoxLayout(group))->addWidget(label);
     layout->addWidget(group);
     Show(*label, form.*frame.text);
+    OnRefresh([label] { label->setMinimumHeight(label->heightForWidth(label->width())); });
   }
   auto* buttons = new QDialogButtonBox(this);
   auto* go_on = buttons->addButton(tr("&OK"), QDialogButtonBox::AcceptRole);

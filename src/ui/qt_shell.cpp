@@ -146,6 +146,7 @@ std::unique_ptr<FormDialog> QtShell::Make(Form& form) {
   auto dialog = ProgramForms().Make(window_->TheUi(), form, front != nullptr ? front : window_);
   if (!dialog) return nullptr;
   dialog->Refresh();
+  if (!dialog->testAttribute(Qt::WA_Resized)) dialog->adjustSize();
   shown_.push_back(dialog.get());
   return dialog;
 }

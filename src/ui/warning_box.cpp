@@ -41,7 +41,6 @@ WarningBox::WarningBox(const Ui& ui, WarningForm& form, QWidget* parent)
     (new QVBoxLayout(group))->addWidget(label);
     layout->addWidget(group);
     Show(*label, form.*frame.text);
-    OnRefresh([label] { label->setMinimumHeight(label->heightForWidth(label->width())); });
   }
   auto* buttons = new QDialogButtonBox(this);
   auto* go_on = buttons->addButton(tr("&OK"), QDialogButtonBox::AcceptRole);

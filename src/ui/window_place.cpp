@@ -1,6 +1,7 @@
 #include "ui/window_place.h"
 
 #include <QGuiApplication>
+#include <QLayout>
 #include <QScreen>
 #include <algorithm>
 
@@ -52,6 +53,13 @@ QPoint Centre(const QWidget& window) {
   return QGuiApplication::primaryScreen()->availableGeometry().center();
 }
 
+// Wrapped texts need more height than the layout's own hint tells.
+QSize WithRoomForTexts(QSize size, const QWidget& window) {
+  const QLayout* layout = window.layout();
+  if (layout == nullptr || !layout->hasHeightForWidth()) return size;
+  return size.expandedTo({0, layout->totalHeightForWidth(size.width())});
+}
+
 void MoveAside(QRect& place, const QWidget& window, FirstPlace side) {
   if (window.parentWidget() == nullptr) return;
   const QRect parent = window.parentWidget()->window()->frameGeometry();
@@ -66,7 +74,7 @@ void RestorePlace(Settings& settings, QWidget& window, const std::string& form, 
   QSize size = window.size();
   if (stored.width && stored.height)
     size = QSize(*stored.width, *stored.height).expandedTo(window.minimumSizeHint());
-  QRect place(QPoint(0, 0), size);
+  QRect place(QPoint(0, 0), WithRoomForTexts(size, window));
   place.moveCenter(Centre(window));
   MoveAside(place, window, first);
   if (stored.left && stored.top) place.moveTopLeft({*stored.left, *stored.top});

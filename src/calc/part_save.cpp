@@ -11,29 +11,17 @@
 namespace zeb {
 namespace {
 
-bool UserAgrees(Session& session, const std::string& title, const std::string& text) {
-  return session.platform.dialogs.Show({.title = title,
-                                        .text = text,
-                                        .icon = MessageIcon::kQuestion,
-                                        .buttons = MessageButtons::kYesNo}) == Answer::kYes;
-}
-
 // Empty when the user thinks better of it.
 std::string AskForFile(Session& session) {
-  std::string path =
+  const std::string path =
       session.platform.dialogs.SaveFile(ProjectDialog(session, "New ZEB Project file name"));
-  const bool taken = !path.empty() && session.platform.files.FileExists(path);
-  if (taken && !UserAgrees(session, "Existing File Name",
-                           "This file name already exists shall I overwrite?")) {
-    return {};
-  }
-  return path;
+  return path.empty() || MayOverwrite(session, path) ? path : std::string();
 }
 
 }  // namespace
 
 void SavePartProject(Session& session) {
-  if (!UserAgrees(session, "Save the operating heads",
+  if (!UserAgrees(session.platform.dialogs, "Save the operating heads",
                   "Do you wish to save the operating heads in to a new ZEB Project file?")) {
     return;
   }

@@ -11,11 +11,6 @@ constexpr const char* kTitle = "Auto Pipe Size ";
 constexpr const char* kCaptured = "Auto Pipe Size - Unsized pipes captured";
 constexpr const char* kZeroed = "All pipes set to 0 mm";
 
-Answer Ask(Session& session, const std::string& text, MessageButtons buttons) {
-  return session.platform.dialogs.Show(
-      {.title = kTitle, .text = text, .icon = MessageIcon::kQuestion, .buttons = buttons});
-}
-
 void NoteChange(Session& session, const std::string& description) {
   session.project.DataChanged = 1;
   session.project.UndoDescription = description;
@@ -33,9 +28,11 @@ void CaptureSizes(Session& session) {
 }  // namespace
 
 bool ZeroAllPipes(Session& session) {
-  const Answer answer =
-      Ask(session, "This option will remove all pipe sizes from the currant ZEB project? ",
-          MessageButtons::kOkCancel);
+  const Answer answer = session.platform.dialogs.Show(
+      {.title = kTitle,
+       .text = "This option will remove all pipe sizes from the currant ZEB project? ",
+       .icon = MessageIcon::kQuestion,
+       .buttons = MessageButtons::kOkCancel});
   if (answer != Answer::kOk) return false;
   Project& project = session.project;
   for (int pipe = 1; pipe <= project.PipeCount; ++pipe) {
@@ -58,8 +55,8 @@ void mnuCalcZeroPipe_Click(Session& session) {
 void mnuCalcSetPipe_Click(Session& session) {
   bool captured = false;
   if (session.project.UnsizedCount > 0) {
-    captured = Ask(session, "Do you wish ZEB to capture the Auto Sized pipes?",
-                   MessageButtons::kYesNo) == Answer::kYes;
+    captured = UserAgrees(session.platform.dialogs, kTitle,
+                          "Do you wish ZEB to capture the Auto Sized pipes?");
     if (captured) CaptureSizes(session);
   } else {
     session.platform.dialogs.Show({.title = kTitle,

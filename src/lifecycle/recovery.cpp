@@ -77,13 +77,10 @@ bool Recovery::Offer() {
   std::vector<std::string> note = SplitLines(files.ReadFile(NotePath()));
   note.resize(2);
   const std::string gap = std::string(kLineBreak) + std::string(kLineBreak);
-  const bool wanted =
-      session_.platform.dialogs.Show({.title = "Recover lost changes",
-                                      .text = "ZEB was cut off. The changes of " + note[1] +
-                                              " to this project were not saved:" + gap + note[0] +
-                                              gap + "Do you wish to have them back?",
-                                      .icon = MessageIcon::kQuestion,
-                                      .buttons = MessageButtons::kYesNo}) == Answer::kYes;
+  const bool wanted = UserAgrees(session_.platform.dialogs, "Recover lost changes",
+                                 "ZEB was cut off. The changes of " + note[1] +
+                                     " to this project were not saved:" + gap + note[0] + gap +
+                                     "Do you wish to have them back?");
   if (wanted) {
     Restore(note[0]);
   } else {

@@ -31,4 +31,11 @@ Answer DefaultAnswer(const Message& message) {
   return index < answers.size() ? answers[index] : answers.front();
 }
 
+bool UserAgrees(Dialogs& dialogs, const std::string& title, const std::string& text) {
+  return dialogs.Show({.title = title,
+                       .text = text,
+                       .icon = MessageIcon::kQuestion,
+                       .buttons = MessageButtons::kYesNo}) == Answer::kYes;
+}
+
 }  // namespace zeb

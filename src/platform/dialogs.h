@@ -49,4 +49,7 @@ class Dialogs {
   virtual std::string SaveFile(const FileDialog& dialog) = 0;
 };
 
+// Asks a question with Yes and No.
+[[nodiscard]] bool UserAgrees(Dialogs& dialogs, const std::string& title, const std::string& text);
+
 }  // namespace zeb

@@ -9,10 +9,8 @@ namespace zeb {
 namespace {
 
 bool UserReplaces(Dialogs& dialogs) {
-  return dialogs.Show({.title = "Backup existing file",
-                       .text = "The backup file already exist, shall I replace it? ",
-                       .icon = MessageIcon::kQuestion,
-                       .buttons = MessageButtons::kYesNo}) == Answer::kYes;
+  return UserAgrees(dialogs, "Backup existing file",
+                    "The backup file already exist, shall I replace it? ");
 }
 
 // A backup that is opened as a project would otherwise be trashed or copied over itself.

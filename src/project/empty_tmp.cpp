@@ -5,6 +5,7 @@
 #include <string>
 
 #include "project/backup.h"
+#include "services/number_text.h"
 #include "services/paths.h"
 #include "services/procedure.h"
 #include "services/text.h"
@@ -20,23 +21,24 @@ bool IsBackup(const std::string& name) {
                      [&](std::string_view extension) { return upper.ends_with(extension); });
 }
 
-bool UserAgrees(Dialogs& dialogs) {
-  return dialogs.Show({.title = "Delete TMP folder files",
-                       .text = "Do you wish to delete all file in the ZEB TMP folder?  ",
-                       .icon = MessageIcon::kQuestion,
-                       .buttons = MessageButtons::kYesNo}) == Answer::kYes;
-}
-
 }  // namespace
 
 void EmptyTmpFolder(Session& session) {
-  if (!UserAgrees(session.platform.dialogs)) return;
+  if (!UserAgrees(session.platform.dialogs, "Delete TMP folder files",
+                  "Do you wish to delete all file in the ZEB TMP folder?  ")) {
+    return;
+  }
   FileSystem& files = session.platform.files;
   const std::string folder = TmpFolder(session);
+  int deleted = 0;
   Procedure procedure(session, "ZEBF03", "mnuDeleteTmp_Click");
   for (const std::string& name : files.FileNames(folder)) {
-    if (IsBackup(name)) procedure.Step(20, [&] { files.Remove(AddBackSlash(folder) + name); });
+    if (IsBackup(name) && procedure.Step(20, [&] { files.Remove(AddBackSlash(folder) + name); }))
+      ++deleted;
   }
+  session.platform.shell.SetPanel(
+      Panel::kHint,
+      PlainText(deleted) + (deleted == 1 ? " file" : " files") + " deleted from the TMP folder");
 }
 
 }  // namespace zeb

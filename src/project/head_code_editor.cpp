@@ -21,12 +21,10 @@ FileDialog LibraryDialog(const Session& session, const std::string& title,
           .file_name = file_name};
 }
 
-bool MayOverwrite(Session& session, const std::string& path) {
-  if (!session.platform.files.FileExists(path)) return true;
-  return session.platform.dialogs.Show({.title = "Existing file name",
-                                        .text = "Do you wish to overwrite the existing file?  ",
-                                        .icon = MessageIcon::kQuestion,
-                                        .buttons = MessageButtons::kYesNo}) == Answer::kYes;
+bool MayReplaceLibrary(Session& session, const std::string& path) {
+  return !session.platform.files.FileExists(path) ||
+         UserAgrees(session.platform.dialogs, "Existing file name",
+                    "Do you wish to overwrite the existing file?  ");
 }
 
 void TellThatNothingFits(Dialogs& dialogs) {
@@ -115,7 +113,7 @@ void HeadCodeEditor::cmdLoad_Click() {
 void HeadCodeEditor::cmdSave_Click() {
   const std::string path = session_.platform.dialogs.SaveFile(
       LibraryDialog(session_, "Save Head Code Library File", "user.hcl"));
-  if (path.empty() || !MayOverwrite(session_, path)) return;
+  if (path.empty() || !MayReplaceLibrary(session_, path)) return;
   Procedure proc(session_, kModule, "cmdSave_Click");
   proc.Step(10, [&] { WriteHeadCodeLibrary(session_, path); });
 }

@@ -21,6 +21,12 @@ FileDialog ProjectDialog(Session& session, const std::string& title) {
           .file_name = {}};
 }
 
+bool MayOverwrite(Session& session, const std::string& path) {
+  return !session.platform.files.FileExists(path) ||
+         UserAgrees(session.platform.dialogs, "Existing File Name",
+                    "This file name already exists shall I overwrite?");
+}
+
 void SetProjectFile(Session& session, const std::string& path) {
   session.project.ProjectPath = UpperCase(path);
   RememberRealPath(session, path);

@@ -12,6 +12,9 @@ namespace zeb {
 // A dialog for project files, with its title.
 [[nodiscard]] FileDialog ProjectDialog(Session& session, const std::string& title);
 
+// True when no file is there, or when the user lets it be overwritten.
+[[nodiscard]] bool MayOverwrite(Session& session, const std::string& path);
+
 // Makes a file the open project's, under its path as the user picked it; ProjectPath is that path
 // in upper case.
 void SetProjectFile(Session& session, const std::string& path);

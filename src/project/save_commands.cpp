@@ -19,14 +19,6 @@ namespace {
 constexpr std::string_view kVersionMark = "_Ver";
 constexpr std::string_view kExtension = ".zeb";
 
-bool UserOverwrites(Session& session, const std::string& path) {
-  if (!session.platform.files.FileExists(path)) return true;
-  return session.platform.dialogs.Show({.title = "Existing File Name",
-                                        .text = "This file name already exists shall I overwrite?",
-                                        .icon = MessageIcon::kQuestion,
-                                        .buttons = MessageButtons::kYesNo}) == Answer::kYes;
-}
-
 void ContinueOn(Session& session, const std::string& path) {
   Project& project = session.project;
   const std::string old_path = project.ProjectPath;
@@ -80,7 +72,7 @@ void Fsave(Session& session) {
     dialog.file_name = ReturnFileName(RealProjectPath(session));
   }
   const std::string path = session.platform.dialogs.SaveFile(dialog);
-  if (path.empty() || !UserOverwrites(session, path)) return;
+  if (path.empty() || !MayOverwrite(session, path)) return;
   if (!SaveProject(session, FormatInForce(session.project), path)) return;
   session.platform.shell.AddRecentFile(path);
   ContinueOn(session, path);

@@ -10,15 +10,8 @@
 namespace zeb {
 namespace {
 
-bool UserAgrees(Session& session, const std::string& title, const std::string& text) {
-  return session.platform.dialogs.Show({.title = title,
-                                        .text = text,
-                                        .icon = MessageIcon::kQuestion,
-                                        .buttons = MessageButtons::kYesNo}) == Answer::kYes;
-}
-
 bool UserDropsData(Session& session) {
-  if (!UserAgrees(session, "This data will not be saved",
+  if (!UserAgrees(session.platform.dialogs, "This data will not be saved",
                   "Do you want to exit without saving this information?")) {
     return false;
   }
@@ -31,7 +24,7 @@ bool UserOverwrites(Session& session, const std::string& path) {
   if (!files.FileExists(path)) return true;
   const DateTime time = files.FileTime(path);
   const std::string gap = std::string(kLineBreak) + std::string(kLineBreak);
-  return UserAgrees(session, session.project.ProjectPath + " already exists",
+  return UserAgrees(session.platform.dialogs, session.project.ProjectPath + " already exists",
                     "This file name has been used before." + gap + "Size is " +
                         std::to_string(files.FileSize(path)) + " bytes and was last updated on " +
                         DateText(time) + " " + TimeText(time) + gap +
@@ -59,7 +52,7 @@ bool NameUntitled(Session& session) {
 }
 
 bool UserSaves(Session& session) {
-  return UserAgrees(session, "Save ZEB Project Data",
+  return UserAgrees(session.platform.dialogs, "Save ZEB Project Data",
                     "Your ZEB project data has changed do you wish to save to file? ");
 }
 

@@ -14,13 +14,6 @@ const DesignAuthority& AuthorityOf(const Session& session, int row) {
   return session.authorities.Rows()[static_cast<std::size_t>(row)];
 }
 
-bool UserAgrees(Dialogs& dialogs) {
-  return dialogs.Show({.title = "Design Authority - Default Valve",
-                       .text = "Would you like to set this as the Default Valve",
-                       .icon = MessageIcon::kQuestion,
-                       .buttons = MessageButtons::kYesNo}) == Answer::kYes;
-}
-
 }  // namespace
 
 Auth::Auth(Session& session) : session_(session) { refreshGrid(); }
@@ -44,7 +37,10 @@ void Auth::MSFlexGrid1_DblClick(int row) {
   Procedure procedure(session_, "Auth", "MSFlexGrid1_DblClick");
   procedure.Step(10, [&] {
     const std::string name = AuthorityOf(session_, row).name;
-    if (!UserAgrees(session_.platform.dialogs)) return;
+    if (!UserAgrees(session_.platform.dialogs, "Design Authority - Default Valve",
+                    "Would you like to set this as the Default Valve")) {
+      return;
+    }
     session_.authorities.SaveDefaultDesignAuth(name);
     session_.authorities.SetDefaultAuth(row);
   });

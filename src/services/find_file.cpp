@@ -6,7 +6,7 @@
 namespace zeb {
 namespace {
 
-bool UserAgrees(Dialogs& dialogs, const std::string& name, const std::string& match) {
+bool UserTakes(Dialogs& dialogs, const std::string& name, const std::string& match) {
   return dialogs.Show({.title = name,
                        .text = "Several files differ from this name only in upper and lower case. "
                                "Do you want to use " +
@@ -36,7 +36,7 @@ std::vector<std::string> NamesNoCase(std::vector<std::string> names, const std::
 std::string AgreedFile(Dialogs& dialogs, const std::string& name,
                        const std::vector<std::string>& matches) {
   for (const std::string& match : matches) {
-    if (matches.size() == 1 || UserAgrees(dialogs, name, match)) return match;
+    if (matches.size() == 1 || UserTakes(dialogs, name, match)) return match;
   }
   return {};
 }

@@ -39,11 +39,8 @@ void ShowPlanWord(Session& session) {
 }
 
 bool AsksToTryAgain(Session& session) {
-  return session.platform.dialogs.Show(
-             {.title = "Zoom Command",
-              .text = "You have not selected any pipes do you wish to try again?",
-              .icon = MessageIcon::kQuestion,
-              .buttons = MessageButtons::kYesNo}) == Answer::kYes;
+  return UserAgrees(session.platform.dialogs, "Zoom Command",
+                    "You have not selected any pipes do you wish to try again?");
 }
 
 void ShowZoomedPlan(Session& session) {

@@ -2,6 +2,7 @@
 
 #include "model/model_state.h"
 #include "project/fresh_project.h"
+#include "project/head_selection.h"
 #include "project/initial_head_codes.h"
 #include "project/open_project.h"
 #include "project/project_data_form.h"
@@ -37,6 +38,7 @@ void BeginUntitled(Project& project) {
   ClearCounts(project);
   ClearHeader(project);
   ResetView(project);
+  LeaveHeadSelection(project);
   project.ProjectPath = kUntitled;
   project.NewProjectFlag = 1;
   project.DataChanged = 0;
@@ -48,6 +50,7 @@ void ShowUntitled(Session& session) {
   Shell& shell = session.platform.shell;
   shell.SetTitle(session.project.ProductName + " Starting new ZEB Project file");
   DisableProjectMenus(shell);
+  session.platform.commands.ViewCommandReset();
   shell.Enable(Feature::kUndo, true);
   shell.ClearPicture();
 }

@@ -6,7 +6,6 @@ namespace zeb {
 namespace {
 
 constexpr int kPlanView = 1;
-constexpr int kViewCommand = 7;
 constexpr float kZLimitOff = 1.0F;
 constexpr float kHighestZ = 10.0F;
 
@@ -44,11 +43,11 @@ void ResetView(Project& project) {
   project.ViewName = "Plan";
   project.ViewTitle = "Plan";
   project.ViewMode = kPlanView;
-  project.CommandMode = kViewCommand;
   project.ZoomState = 0;
   project.ZoomKept = 0;
   project.ColourByClass = 0;
   project.ShowNodesOnce = 0;
+  project.DisplayItem = 0;
   project.ZLimitOn = kZLimitOff;
   project.MinZLimit = 0.0F;
   project.MaxZLimit = kHighestZ;
@@ -62,6 +61,7 @@ void ShowFreshProject(Session& session) {
   project.ModelState = model_state::kRead;
   project.AutoSavePending = 0;
   ResetView(project);
+  session.platform.commands.ViewCommandReset();
 
   Shell& shell = session.platform.shell;
   shell.Enable(Feature::kEditMenu, true);

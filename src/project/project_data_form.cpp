@@ -5,6 +5,7 @@
 #include "model/model_state.h"
 #include "project/backup.h"
 #include "project/head_codes.h"
+#include "project/head_selection.h"
 #include "project/pressure_loss_form.h"
 #include "project/project_items.h"
 #include "project/project_writer.h"
@@ -33,13 +34,6 @@ std::vector<std::string> FirstRows(const Rows& table, int count) {
   std::vector<std::string> rows;
   for (int row = 1; row <= std::min(count, Rows::kLast); ++row) rows.push_back(table[row]);
   return rows;
-}
-
-bool Confirmed(Dialogs& dialogs, const std::string& title, const std::string& text) {
-  return dialogs.Show({.title = title,
-                       .text = text,
-                       .icon = MessageIcon::kQuestion,
-                       .buttons = MessageButtons::kYesNo}) == Answer::kYes;
 }
 
 }  // namespace
@@ -177,7 +171,9 @@ void ProjectDataForm::SaveIfChanged() {
   Project& project = session_.project;
   project.DataChanged = 1;
   const bool has_path = !project.ProjectPath.empty() && project.ProjectPath != kUntitled;
-  if (!IsAnythingChanged() || IsNewProject() || !has_path) return;
+  if (!IsAnythingChanged()) return;
+  LeaveHeadSelection(project);
+  if (IsNewProject() || !has_path) return;
   MakeBackup(session_, project.ProjectPath, kBackupExtension, false);
   session_.platform.shell.SetPanel(Panel::kHint, "Backup File Created!");
   project.DataChanged = 0;
@@ -223,7 +219,7 @@ void ProjectDataForm::cmdIssue_Click() {
       NextIssueText(Field(Item::kIssue), DateText(session_.platform.clock.Now()));
   const std::string question = "Do you with to use the Issue number and Date?   " +
                                std::string(kLineBreak) + std::string(kLineBreak) + text;
-  if (Confirmed(session_.platform.dialogs, "Auto Issue Number", question)) {
+  if (UserAgrees(session_.platform.dialogs, "Auto Issue Number", question)) {
     Field(Item::kIssue) = text;
   }
 }
@@ -238,8 +234,8 @@ void ProjectDataForm::cmdDWF_Click() {
   }
   const bool darcy = Contains(fluid, "DWF") || Contains(fluid, "NFPA 750");
   const std::string equation = darcy ? "Hazen-Williams" : "Darcy-Weisbach";
-  if (Confirmed(session_.platform.dialogs, "Pressure loss formula ",
-                "Do you wish to use the " + equation + " equation?")) {
+  if (UserAgrees(session_.platform.dialogs, "Pressure loss formula ",
+                 "Do you wish to use the " + equation + " equation?")) {
     fluid = darcy ? std::string(kWater) : "DWF DENS=998 VISC=0.95";
   }
 }
@@ -254,8 +250,8 @@ void ProjectDataForm::cmdCompact_Click() {
                   .icon = MessageIcon::kInformation});
     return;
   }
-  if (!Confirmed(dialogs, title,
-                 "Do you wish to remove heads codes which are not used in this project file  ")) {
+  if (!UserAgrees(dialogs, title,
+                  "Do you wish to remove heads codes which are not used in this project file  ")) {
     return;
   }
   Procedure proc(session_, kModule, "cmdCompact_Click");

@@ -10,6 +10,7 @@
 #include "project/backup.h"
 #include "project/file_failures.h"
 #include "project/fresh_project.h"
+#include "project/head_selection.h"
 #include "project/initial_head_codes.h"
 #include "project/project_writer.h"
 #include "project/undo_history.h"
@@ -43,8 +44,7 @@ constexpr std::array kRenamedAuthorities{
 void ClearBeforeReading(Session& session) {
   session.platform.shell.ClearPicture();
   session.project.LineCount = 0;
-  session.project.SelectedHeadsMode = 0;
-  session.project.SelectedHeadCount = 0;
+  LeaveHeadSelection(session.project);
 }
 
 void AnnounceReading(Session& session) {

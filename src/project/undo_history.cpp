@@ -1,6 +1,7 @@
 #include "project/undo_history.h"
 
 #include <algorithm>
+#include "project/head_selection.h"
 
 #include "project/project_bundle.h"
 #include "project/project_writer.h"
@@ -78,8 +79,7 @@ void RestoreVersion(Session& session) {
   Project& project = session.project;
   project.DataChanged = 1;
   project.AutoSavePending = 0;
-  project.SelectedHeadsMode = 0;
-  project.SelectedHeadCount = 0;
+  LeaveHeadSelection(project);
   project.UndoSlot = project.UndoIndex[project.UndoSeq].Slot;
   if (project.UndoSlot <= 0) return;
 

@@ -1,7 +1,5 @@
 #include "ui/main_menu.h"
 
-#include <QApplication>
-
 #include "calc/calculate_command.h"
 #include "calc/operating_heads.h"
 #include "calc/unsized_pipes.h"
@@ -75,7 +73,7 @@ MenuTitle FileMenu() {
             .text = "E&xit",
             .tip = "Ends the program",
             .shortcut = "Ctrl+Q",
-            .run = [](WindowContext&) { QApplication::closeAllWindows(); }}}};
+            .run = [](WindowContext& window) { window.exits = true; }}}};
 }
 
 MenuTitle EditMenu() {

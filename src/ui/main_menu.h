@@ -15,6 +15,7 @@ class PointerMachine;
 struct WindowContext {
   Session& session;
   PointerMachine& pointer;
+  bool exits = false;  // a command sets it to close the window once it has ended
 };
 
 // One command of the main window.

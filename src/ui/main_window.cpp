@@ -3,11 +3,11 @@
 #include <QCloseEvent>
 #include <QDropEvent>
 #include <QMimeData>
+#include <utility>
 
 #include "lifecycle/closedown.h"
 #include "lifecycle/project_commands.h"
 #include "ui/error_boxes.h"
-#include "ui/icons.h"
 #include "ui/shown_text.h"
 #include "ui/window_place.h"
 #include "view/display_items.h"
@@ -58,10 +58,10 @@ MainWindow::MainWindow(Session& session)
           [this](const MenuCommand& command) {
             WindowContext context{session_, pointer_};
             Run(std::string(command.name) + "_Click", [&] { command.run(context); });
+            if (context.exits) close();
           },
           [this](QMenu& menu) { FillRecent(menu); }) {
   setObjectName(kModule);
-  setWindowIcon(ProgramIcon("zeb"));
   setAcceptDrops(true);
   setCentralWidget(picture_);
   setStatusBar(panels_);
@@ -138,12 +138,13 @@ void MainWindow::ClearPicture() {
   picture_->update();
 }
 
-// The drawing lets events run, which may ask for another one or paint what is half drawn.
+// The drawing lets events run, which may change the size or paint what is half drawn.
 void MainWindow::Redraw() {
+  stale_ = true;
   if (drawing_) return;
   drawing_ = true;
   picture_->setUpdatesEnabled(false);
-  DrawView(session_, picture_->Surface());
+  while (std::exchange(stale_, false)) DrawView(session_, picture_->Surface());
   picture_->setUpdatesEnabled(true);
   drawing_ = false;
   picture_->update();

@@ -65,6 +65,7 @@ class MainWindow final : public QMainWindow {
   PicturePointer pointer_shape_ = PicturePointer::kDefault;
   bool busy_ = false;
   bool drawing_ = false;
+  bool stale_ = false;  // a redraw was asked for since the last one began
 };
 
 }  // namespace zeb

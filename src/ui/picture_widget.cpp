@@ -107,18 +107,27 @@ void PictureWidget::resizeEvent(QResizeEvent* /*event*/) {
   emit NeedsRedraw();
 }
 
+// The buttons on the side of a mouse mean nothing here.
+bool PictureWidget::IsServed(QMouseEvent& event) {
+  const bool served = (event.button() & (Qt::LeftButton | Qt::RightButton | Qt::MiddleButton)) != 0;
+  event.setAccepted(served);
+  return served;
+}
+
 void PictureWidget::mousePressEvent(QMouseEvent* event) {
+  if (!IsServed(*event)) return;
   emit Pressed(event->button(), ToPicture(event->position()));
 }
 
 void PictureWidget::mouseMoveEvent(QMouseEvent* event) { emit Moved(ToPicture(event->position())); }
 
 void PictureWidget::mouseReleaseEvent(QMouseEvent* event) {
+  if (!IsServed(*event)) return;
   emit Released(event->button(), ToPicture(event->position()));
 }
 
 void PictureWidget::mouseDoubleClickEvent(QMouseEvent* event) {
-  emit DoubleClicked(event->button());
+  if (IsServed(*event)) emit DoubleClicked(event->button());
 }
 
 void PictureWidget::wheelEvent(QWheelEvent* event) {

@@ -47,6 +47,7 @@ class PictureWidget final : public QWidget {
 
  private:
   [[nodiscard]] Point ToPicture(QPointF place) const;
+  [[nodiscard]] static bool IsServed(QMouseEvent& event);
   void AddPanArrows();
   void PlacePanArrows();
   void FitSurface();

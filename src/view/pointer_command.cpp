@@ -1,5 +1,6 @@
 #include "view/pointer_command.h"
 
+#include "project/head_selection.h"
 #include "view/draw_view.h"
 #include "view/pipe_details_form.h"
 #include "view/pointer_modes.h"
@@ -38,11 +39,6 @@ void ViewCommandReset(Session& session) {
 void Dview(Session& session) {
   LeaveHeadSelection(session.project);
   ViewCommandReset(session);
-}
-
-void LeaveHeadSelection(Project& project) {
-  project.SelectedHeadsMode = 0;
-  project.SelectedHeadCount = 0;
 }
 
 }  // namespace zeb

@@ -28,7 +28,4 @@ void ViewCommandReset(Session& session);
 // The user's way back to it, which also leaves the picking of heads.
 void Dview(Session& session);
 
-// Lets all heads operate again, as any drawing command does.
-void LeaveHeadSelection(Project& project);
-
 }  // namespace zeb

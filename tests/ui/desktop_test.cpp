@@ -232,6 +232,30 @@ TEST_F(DesktopTest, PicksHeadsByABox) {
   EXPECT_EQ(TheProject().SelectedHeadCount, TheProject().HeadCount);
 }
 
+TEST_F(DesktopTest, ForgetsPickedHeadsWhenTheDataChange) {
+  Start(Example("office_floor.zeb"));
+  const auto pick_all = [&] {
+    Pick("Cboxes");
+    Drag({1, 1}, {Picture().width() - 1, Picture().height() - 1});
+    EXPECT_GT(TheProject().SelectedHeadCount, 0);
+  };
+  pick_all();
+  user.On("ZEBF02", [](QDialog& form) {
+    form.findChild<QComboBox*>("et1")->setEditText("Ground floor");
+    form.findChild<QPushButton*>("cmdApply")->click();
+  });
+  Pick("Fdata");
+  EXPECT_EQ(TheProject().SelectedHeadsMode, 0);
+
+  pick_all();
+  TheProject().DisplayItem = 2;
+  user.Press("ZEBF02", "cmdCancel");
+  Pick("Fnew");
+  EXPECT_EQ(TheProject().SelectedHeadsMode, 0);
+  EXPECT_EQ(TheProject().DisplayItem, 0);
+  EXPECT_EQ(PanelText(3), "VIEW");
+}
+
 TEST_F(DesktopTest, StopsACalculation) {
   AcceptCalculation();
   user.Press("frmCalcProgress", "cmdStop");
@@ -305,7 +329,8 @@ TEST_F(DesktopTest, UndoesAndAsksBeforeClosingWithChanges) {
   });
   Pick("Fundo");
   user.Press("Save ZEB Project Data", "Yes");
-  EXPECT_TRUE(Window().close());
+  Pick("Fexit");
+  EXPECT_FALSE(Window().isVisible());
   EXPECT_TRUE(user.shown.contains("Save ZEB Project Data"));
   EXPECT_EQ(TheProject().ClosedownDone, 1);
 }

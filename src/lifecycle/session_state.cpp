@@ -235,7 +235,8 @@ void mnuResetZEBlast(Session& session) {
   std::copy(kDefaultGridLayout.begin(), kDefaultGridLayout.end(), project.GridLayoutTexts.begin());
   SetDefaultCalculationFigures(project);
   Procedure procedure(session, "ZEBF03", "mnuResetZEBlast_Click");
-  procedure.Step(30, [&] { WriteSessionState(session); });
+  if (procedure.Step(30, [&] { WriteSessionState(session); }))
+    session.platform.shell.SetPanel(Panel::kHint, "Session file reset");
 }
 
 }  // namespace zeb

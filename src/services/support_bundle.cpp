@@ -53,6 +53,19 @@ void AddFolder(Session& session, Entries& entries, const std::string& folder,
   }
 }
 
+// The folder in which the user finds the bundle: the desktop where there is one.
+std::string ShowOnDesktop(Session& session, const std::string& bundle) {
+  Platform& platform = session.platform;
+  const std::string desktop = platform.machine.DesktopFolder();
+  if (!platform.files.FolderExists(desktop)) return session.folders.Program;
+  CopyFileSafely(platform.files, bundle, AddBackSlash(desktop) + kErrorBundle);
+  return desktop;
+}
+
+void Tell(Session& session, const std::string& hint) {
+  session.platform.shell.SetPanel(Panel::kHint, hint);
+}
+
 }  // namespace
 
 void ZEB_error_dat(Session& session) {
@@ -67,8 +80,8 @@ void ZEB_error_dat(Session& session) {
   // An older bundle must not pass for this one.
   if (!packed) return;
   procedure.Step(50, [&] {
-    const std::string desktop = platform.machine.DesktopFolder();
-    CopyFileSafely(platform.files, bundle, AddBackSlash(desktop) + kErrorBundle);
+    const std::string folder = ShowOnDesktop(session, bundle);
+    Tell(session, std::string(kErrorBundle) + " packed in " + folder);
   });
 }
 
@@ -76,12 +89,14 @@ void delErrorLogFiles(Session& session) {
   const std::string folder = AddBackSlash(session.folders.Program);
   Procedure procedure(session, "Module3", "delErrorLogFiles");
   int step = 0;
+  bool deleted = true;
   for (const std::string& path :
        {folder + kProjectBundle, folder + kErrorBundle, session.log.Path()}) {
-    procedure.Step(step += 10, [&] {
+    deleted &= procedure.Step(step += 10, [&] {
       if (session.platform.files.FileExists(path)) session.platform.files.Remove(path);
     });
   }
+  if (deleted) Tell(session, "Error logs deleted");
 }
 
 }  // namespace zeb

@@ -102,6 +102,14 @@ TEST(SupportBundleTest, PacksWhatSupportNeeds) {
   EXPECT_TRUE(test.dialogs.messages.empty());
 }
 
+TEST(SupportBundleTest, StaysInTheProgramFolderWithoutADesktop) {
+  TestSession test;
+  test.machine.desktop = "/none";
+  ZEB_error_dat(test.session);
+  EXPECT_TRUE(test.dialogs.messages.empty());
+  EXPECT_EQ(test.shell.panels[Panel::kHint], "ZEB_error_data.zip packed in /prog");
+}
+
 TEST(SupportBundleTest, CopiesNoOlderBundleAfterAFailure) {
   TestSession test;
   test.files.Put("/prog/ZEB_error_data.zip", "old");

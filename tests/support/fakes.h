@@ -34,7 +34,7 @@ class FakeMachine final : public Machine {
   [[nodiscard]] std::string ExecutableFolder() override { return "/prog"; }
   [[nodiscard]] std::string DocumentsFolder() override { return "/docs"; }
   [[nodiscard]] std::string ConfigFolder() override { return "/config"; }
-  [[nodiscard]] std::string DesktopFolder() override { return "/desktop"; }
+  [[nodiscard]] std::string DesktopFolder() override { return desktop; }
   [[nodiscard]] std::string Environment(const std::string& name) override {
     return environment[name];
   }
@@ -46,6 +46,7 @@ class FakeMachine final : public Machine {
 
   std::string user = "USER";
   std::string computer = "COMPUTER";
+  std::string desktop = "/desktop";
   std::map<std::string, std::string> environment;
   std::vector<std::string> trashed;
   FileSystem* files = nullptr;  // where a trashed file is taken away

@@ -1,6 +1,7 @@
 #include "view/draw_view.h"
 
 #include <cstdlib>
+#include <optional>
 #include <vector>
 
 #include "calc/operating_heads.h"
@@ -106,12 +107,16 @@ void Redraw::SetBounds() {
 }
 
 void Redraw::DrawPipes() {
-  const Projection projection(project_, bounds_);
-  projection.StorePlanMapping(project_);
+  std::optional<Projection> projection;
+  steps_.Step(75, [&] {
+    projection.emplace(project_, bounds_);
+    projection->StorePlanMapping(project_);
+  });
+  if (!projection) return;
   for (int pipe = 1; pipe <= project_.PipeCount; ++pipe) {
     steps_.Step(80, [&] {
       if (!IsDrawn(pipe)) return;
-      Place(projection, pipe);
+      Place(*projection, pipe);
       DrawPipe(project_, surface_, pipe);
     });
   }

@@ -1,8 +1,9 @@
 #include "ui/program.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 
 #include "lifecycle/startup.h"
+#include "ui/icons.h"
 #include "ui/shown_text.h"
 #include "ui/theme.h"
 
@@ -17,6 +18,7 @@ Program::Program()
 Program::~Program() { shell_.Attach(nullptr); }
 
 bool Program::Start(const std::string& path) {
+  QGuiApplication::setWindowIcon(ProgramIcon("zeb"));
   ApplyTheme(kThemeSystem);
   StartUpForm start(session_, path.empty() ? "" : '"' + path + '"');
   if (!start.Form_Load()) return false;

@@ -3,7 +3,9 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QGridLayout>
 #include <QInputDialog>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <array>
 
@@ -11,6 +13,7 @@
 #include "paint/code_page.h"
 #include "ui/code_page_guard.h"
 #include "ui/shown_text.h"
+#include "ui/window_place.h"
 
 namespace zeb {
 namespace {
@@ -89,9 +92,22 @@ Answer AnswerOf(int button) {
   return Answer::kCancel;
 }
 
+// A box is never left without a parent, as it would not stay above the window: while another
+// program is in front, the main window is its parent.
 QWidget* WindowInFront() {
-  QWidget* modal = QApplication::activeModalWidget();
-  return modal != nullptr ? modal : QApplication::activeWindow();
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  if (QWidget* active = QApplication::activeWindow()) return active;
+  for (QWidget* window : QApplication::topLevelWidgets())
+    if (window->isVisible() && qobject_cast<QMainWindow*>(window) != nullptr) return window;
+  return nullptr;
+}
+
+// The box is made for its text, which may be shorter than the title.
+void MakeRoomForTitle(QMessageBox& box) {
+  auto* grid = qobject_cast<QGridLayout*>(box.layout());
+  if (grid == nullptr) return;
+  grid->addItem(new QSpacerItem(WidthForTitle(box), 0), grid->rowCount(), 0, 1,
+                grid->columnCount());
 }
 
 // "ZEB Files|*.ZEB" as "ZEB Files (*.ZEB *.zeb)"; a bare extension is its own description.
@@ -128,6 +144,7 @@ Answer QtDialogs::Show(const Message& message) {
   box.setStandardButtons(ButtonsOf(message.buttons));
   box.setDefaultButton(ButtonOf(DefaultAnswer(message)));
   box.setEscapeButton(EscapeOf(message.buttons));
+  MakeRoomForTitle(box);
   return AnswerOf(box.exec());
 }
 
@@ -139,6 +156,7 @@ std::optional<std::string> QtDialogs::Input(const std::string& title, const std:
   dialog.setLabelText(ShownText(prompt));
   dialog.setTextValue(ToQt(initial));
   if (auto* field = dialog.findChild<QLineEdit*>()) GuardText(*field);
+  dialog.resize(dialog.sizeHint().expandedTo({WidthForTitle(dialog), 0}));
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return FromQt(dialog.textValue());
 }

@@ -11,19 +11,14 @@
 namespace zeb {
 namespace {
 
-struct PanelLook {
-  const char* widest;  // a text that must fit; the first panel takes what is left
-  const char* tip;
-};
-
-constexpr std::array<PanelLook, 7> kLooks{
-    {{"", ""},
-     {"P:5019 L:1000 H:1500 A:99999.9m2", "Pipes, loops, heads and their area"},
-     {"INTERACTIVE EDIT", "What a click on the drawing does"},
-     {"Front", "View"},
-     {"9999 : 9999", "Lowest and highest node"},
-     {"Err #: 999 [OFF]", "Errors of the last check. A click shows or hides their boxes."},
-     {"", "Green when the project is saved"}}};
+constexpr std::array<const char*, 7> kTips{"",
+                                           "Pipes, loops, heads and their area",
+                                           "What a click on the drawing does",
+                                           "View",
+                                           "Lowest and highest node",
+                                           "Errors of the last check. A click shows or hides "
+                                           "their boxes.",
+                                           "Green when the project is saved"};
 
 // A long hint must not make the window wider; it is cut and stands whole in its tip.
 class HintLabel final : public QLabel {
@@ -48,15 +43,14 @@ class HintLabel final : public QLabel {
 
 StatusPanels::StatusPanels(QWidget* parent) : QStatusBar(parent) {
   for (int index = 0; index < kPanels; ++index) {
-    const PanelLook& look = kLooks.at(static_cast<std::size_t>(index));
-    auto* label = new HintLabel(this);
+    // The first panel takes what the others leave.
+    const bool is_hint = index == 0;
+    QLabel* label = is_hint ? new HintLabel(this) : new QLabel(this);
     label->setObjectName(QStringLiteral("panel%1").arg(index + 1));
-    label->setToolTip(look.tip);
+    label->setToolTip(kTips.at(static_cast<std::size_t>(index)));
     label->setTextFormat(Qt::PlainText);
-    const int widest = label->fontMetrics().horizontalAdvance(look.widest);
-    if (widest > 0) label->setMinimumWidth(widest + 8);
     label->installEventFilter(this);
-    addPermanentWidget(label, index == 0 ? 1 : 0);
+    addPermanentWidget(label, is_hint ? 1 : 0);
     labels_.at(static_cast<std::size_t>(index)) = label;
   }
   LabelOf(Panel::kErrors).setCursor(Qt::PointingHandCursor);

@@ -36,7 +36,7 @@ WarningBox::WarningBox(const Ui& ui, WarningForm& form, QWidget* parent)
     auto* label = new QLabel(group);
     label->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     label->setWordWrap(true);
-    label->setFixedWidth(label->fontMetrics().horizontalAdvance('0') * kColumns);
+    label->setMinimumWidth(label->fontMetrics().horizontalAdvance('0') * kColumns);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     (new QVBoxLayout(group))->addWidget(label);
     layout->addWidget(group);

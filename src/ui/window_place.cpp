@@ -1,8 +1,11 @@
 #include "ui/window_place.h"
 
+#include <QFontDatabase>
+#include <QFontMetrics>
 #include <QGuiApplication>
 #include <QLayout>
 #include <QScreen>
+#include <QStyle>
 #include <algorithm>
 
 #include "services/form_position.h"
@@ -33,6 +36,22 @@ const QScreen* ScreenOf(const QRect& place) {
     }
   }
   return best;
+}
+
+// How far a frame reaches beyond its window. A window that was never shown does not know yet, so
+// its parent's frame stands for it.
+QMargins FrameOf(const QWidget& window) {
+  const QWidget* parent = window.parentWidget();
+  const QWidget& shown = parent != nullptr ? *parent->window() : window;
+  const QRect inner = shown.geometry();
+  const QRect outer = shown.frameGeometry();
+  if (outer != inner) {
+    return {inner.left() - outer.left(), inner.top() - outer.top(), outer.right() - inner.right(),
+            outer.bottom() - inner.bottom()};
+  }
+  const QStyle& style = *window.style();
+  const int edge = style.pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+  return {edge, style.pixelMetric(QStyle::PM_TitleBarHeight), edge, edge};
 }
 
 // The rectangle made no larger than the screen and moved onto it.
@@ -74,14 +93,23 @@ void RestorePlace(Settings& settings, QWidget& window, const std::string& form, 
   QSize size = window.size();
   if (stored.width && stored.height)
     size = QSize(*stored.width, *stored.height).expandedTo(window.minimumSizeHint());
-  QRect place(QPoint(0, 0), WithRoomForTexts(size, window));
+  size.setWidth(std::max(size.width(), WidthForTitle(window)));
+  const QMargins frame = FrameOf(window);
+  QRect place(QPoint(0, 0), WithRoomForTexts(size, window).grownBy(frame));
   place.moveCenter(Centre(window));
   MoveAside(place, window, first);
   if (stored.left && stored.top) place.moveTopLeft({*stored.left, *stored.top});
   place = OnScreen(place);
-  window.resize(place.size());
+  window.resize(place.size().shrunkBy(frame));
   window.move(place.topLeft());
   if (WasMaximized(settings, form)) window.setWindowState(Qt::WindowMaximized);
+}
+
+int WidthForTitle(const QWidget& window) {
+  constexpr int kFrameButtons = 5;  // as many times the title's height, its icon among them
+  const QFontMetrics metrics(QFontDatabase::systemFont(QFontDatabase::TitleFont));
+  const int buttons = kFrameButtons * window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+  return metrics.horizontalAdvance(window.windowTitle()) + buttons;
 }
 
 void KeepPlace(Settings& settings, const QWidget& window, const std::string& form) {

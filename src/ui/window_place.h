@@ -15,6 +15,8 @@ enum class FirstPlace { kCentre, kLeft, kRight };
 // screen.
 void RestorePlace(Settings& settings, QWidget& window, const std::string& form,
                   FirstPlace first = FirstPlace::kCentre);
+// The width in dots at which a frame shows the window's title whole.
+[[nodiscard]] int WidthForTitle(const QWidget& window);
 void KeepPlace(Settings& settings, const QWidget& window, const std::string& form);
 
 }  // namespace zeb

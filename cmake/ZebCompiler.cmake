@@ -21,6 +21,20 @@ if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
 endif()
 
+# The headers that most files of a kind include. The debug build compiles them with each file, so
+# that no file relies on what another one includes.
+set(ZEB_CORE_HEADERS <algorithm> <array> <functional> <map> <optional> <string> <string_view>
+                     <vector>)
+set(ZEB_QT_HEADERS <QtWidgets>)
+set(ZEB_TEST_HEADERS <gtest/gtest.h>)
+
+# zeb_precompile(<target> <header...>)
+function(zeb_precompile target)
+  if(ZEB_PRECOMPILE)
+    target_precompile_headers(${target} PRIVATE ${ARGN})
+  endif()
+endfunction()
+
 set(ZEB_GENERATED_DIR ${CMAKE_BINARY_DIR}/generated)
 configure_file(${CMAKE_CURRENT_LIST_DIR}/zeb_version.h.in ${ZEB_GENERATED_DIR}/zeb_version.h @ONLY)
 configure_file(${CMAKE_CURRENT_LIST_DIR}/archive_passwords.h.in

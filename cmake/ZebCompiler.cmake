@@ -23,8 +23,6 @@ endif()
 
 # The headers that most files of a kind include. The debug build compiles them with each file, so
 # that no file relies on what another one includes.
-set(ZEB_CORE_HEADERS <algorithm> <array> <functional> <map> <optional> <string> <string_view>
-                     <vector>)
 set(ZEB_QT_HEADERS <QtWidgets>)
 set(ZEB_TEST_HEADERS <gtest/gtest.h>)
 

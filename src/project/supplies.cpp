@@ -120,8 +120,8 @@ void SupplyEditor::Flow_LostFocus(int pair) {
     if (ClippedFlow(field) < before) {
       session_.platform.dialogs.Show(
           {.title = "Flows must be in ascending order",
-           .text = std::string("The flow just entered is less than the") + " previous value of" +
-                   SignedText(before) + " L/min",
+           .text = "The flow just entered is less than the previous value of" + SignedText(before) +
+                   " L/min",
            .icon = MessageIcon::kWarning});
       field = "0";
     }

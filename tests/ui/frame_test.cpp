@@ -44,6 +44,8 @@ TEST_F(FrameTest, StretchesThePictureFromCornerToCorner) {
   EXPECT_NEAR(presses[0][1].value<Point>().y, 0, 1.5);
   EXPECT_NEAR(presses[1][1].value<Point>().x, 640, 1);
   EXPECT_NEAR(presses[1][1].value<Point>().y, 480, 1.5);
+  QTest::mouseClick(&picture, Qt::BackButton, {}, corner);
+  EXPECT_EQ(presses.size(), 2) << "a side button picks nothing";
 }
 
 TEST_F(FrameTest, EnablesAnActionOnlyWithAllItsFeatures) {
@@ -157,6 +159,15 @@ INSTANTIATE_TEST_SUITE_P(Stored, WindowPlaceTest,
                                          PlaceCase{"large", "0", "0", "99999", "99999"},
                                          PlaceCase{"damaged", "abc", "", "x", "0"}),
                          [](const auto& stored) { return std::string(stored.param.name); });
+
+TEST_F(FrameTest, ShowsAWindowsTitleWhole) {
+  const QString title = "Source flow = 2771.264 L/min is off pump curve";
+  QWidget form;
+  form.resize(100, 50);
+  form.setWindowTitle(title);
+  RestorePlace(session.settings, form, "frmCalc");
+  EXPECT_GT(form.width(), form.fontMetrics().horizontalAdvance(title));
+}
 
 TEST_F(FrameTest, RemembersWhereAWindowWas) {
   QWidget form;

@@ -231,6 +231,12 @@ TEST_F(DrawViewTest, AFailureLeavesOutOnePipeOrEndsTheRedraw) {
   Draw();
   EXPECT_EQ(outside_.dialogs.messages.size(), 3);
   EXPECT_EQ(surface_.Calls("line").size(), 1);
+
+  project_.ViewMode = view::kSouthWest;  // its frame needs every pipe
+  outside_.dialogs.answers = {Answer::kIgnore};
+  Draw();
+  EXPECT_EQ(outside_.dialogs.messages.size(), 4);
+  EXPECT_TRUE(surface_.Calls("line").empty());
 }
 
 }  // namespace

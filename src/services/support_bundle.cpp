@@ -56,7 +56,7 @@ void AddFolder(Session& session, Entries& entries, const std::string& folder,
 // The folder in which the user finds the bundle: the desktop where there is one.
 std::string ShowOnDesktop(Session& session, const std::string& bundle) {
   Platform& platform = session.platform;
-  const std::string desktop = platform.machine.DesktopFolder();
+  std::string desktop = platform.machine.DesktopFolder();
   if (!platform.files.FolderExists(desktop)) return session.folders.Program;
   CopyFileSafely(platform.files, bundle, AddBackSlash(desktop) + kErrorBundle);
   return desktop;

@@ -185,6 +185,8 @@ void ProjectDataForm::CloseForm() {
   session_.project.ZoomState = 0;
   Shell& shell = session_.platform.shell;
   shell.Close(*this);
+  // A command that waits for a node or a head of the network before would not draw the new one.
+  session_.platform.commands.ViewCommandReset();
   for (const Feature feature :
        {Feature::kCalculateMenu, Feature::kDisplayMenu, Feature::kPrintMenu, Feature::kReport}) {
     shell.Enable(feature, false);

@@ -35,6 +35,16 @@ MouseButton ButtonOf(Qt::MouseButton button) {
   return button == Qt::MiddleButton ? MouseButton::kMiddle : MouseButton::kLeft;
 }
 
+// What to do when there is nothing to see.
+QString Invitation(const Project& project) {
+  if (project.PipeCount > 0) return {};
+  if (project.LineCount == 0)
+    return MainWindow::tr(
+        "Open a project with Ctrl+O, or drop its file here.\nCtrl+N begins a new one.");
+  return MainWindow::tr(
+      "There are no pipes yet.\nCtrl+D opens the project data to write their lines.");
+}
+
 // The path of the one project file that was dropped, empty for anything else.
 QString DroppedProject(const QMimeData& data) {
   const QList<QUrl> urls = data.urls();
@@ -175,10 +185,7 @@ void MainWindow::Run(const std::string& procedure, const CommandRunner::Statemen
 void MainWindow::AfterEvent() {
   menus_.Refresh();
   picture_->update();
-  const bool empty = session_.project.LineCount == 0 && session_.project.PipeCount == 0;
-  picture_->SetInvitation(empty ? tr("Open a project with Ctrl+O, or drop its file here.\n"
-                                     "Ctrl+N begins a new one.")
-                                : QString());
+  picture_->SetInvitation(Invitation(session_.project));
 }
 
 void MainWindow::Activate() {

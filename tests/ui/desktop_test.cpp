@@ -337,14 +337,25 @@ TEST_F(DesktopTest, UndoesAndAsksBeforeClosingWithChanges) {
 
 TEST_F(DesktopTest, BeginsANewProjectInTheProjectData) {
   Start();
-  user.On("ZEBF02", [](QDialog& form) {
-    form.findChild<QPlainTextEdit*>("txtLines0")->setPlainText("1 2 50 3.0 E 1 0");
+  QString lines;
+  user.On("ZEBF02", [&](QDialog& form) {
+    form.findChild<QPlainTextEdit*>("txtLines0")->setPlainText(lines);
     form.findChild<QPushButton*>("cmdApply")->click();
   });
   user.Press("frmCalcSummary", "cmdOK");
   Pick("Fnew");
+  Window().activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
+  EXPECT_EQ(TheProject().LineCount, 18);
+  EXPECT_EQ(PanelText(1), "Plan - No pipes yet specified");
+  EXPECT_EQ(PanelText(3), "ADD");
+
+  lines = "1 2 50 3.0 E 1 0";
+  Pick("Fdata");
   EXPECT_EQ(TheProject().PipeCount, 1);
   EXPECT_EQ(TheProject().ProjectPath, "[Untitled]");
+  EXPECT_EQ(PanelText(3), "VIEW");
+  EXPECT_GT(Ink(), 0) << "the first pipe is drawn";
 }
 
 TEST_F(DesktopTest, TogglesTheErrorBoxesOnTheStatusBar) {

@@ -49,10 +49,10 @@ void BeginUntitled(Project& project) {
 void ShowUntitled(Session& session) {
   Shell& shell = session.platform.shell;
   shell.SetTitle(session.project.ProductName + " Starting new ZEB Project file");
-  DisableProjectMenus(shell);
+  LeaveProject(session);
   session.platform.commands.ViewCommandReset();
+  shell.SetPanel(Panel::kView, session.project.ViewName);
   shell.Enable(Feature::kUndo, true);
-  shell.ClearPicture();
 }
 
 // A new project whose items were just applied. The window may come to the front during the check

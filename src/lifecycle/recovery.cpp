@@ -93,7 +93,7 @@ void Recovery::Restore(const std::string& project_path) {
   Project& project = session_.project;
   project.NewProjectFlag = 0;
   SetProjectFile(session_, CopyPath());
-  DisableProjectMenus(session_.platform.shell);
+  LeaveProject(session_);
   ReadAndCheck(session_);
   if (project_path == kUntitled) {
     project.ProjectPath = kUntitled;

@@ -13,23 +13,26 @@ void ReadAndCheck(Session& session) {
 }
 
 void OpenProject(Session& session, const std::string& path) {
-  Shell& shell = session.platform.shell;
   session.project.NewProjectFlag = 0;
   SetProjectFile(session, path);
   session.project.LastProject = session.project.ProjectPath;
   KeepProjectFolder(session, path);
-  DisableProjectMenus(shell);
-  shell.ClearPicture();
-  shell.SetPanel(Panel::kErrors, session.SuppressErrors ? "[OFF]" : "[ON]");
+  LeaveProject(session);
   ReadAndCheck(session);
-  shell.AddRecentFile(path);
+  session.platform.shell.AddRecentFile(path);
 }
 
-void DisableProjectMenus(Shell& shell) {
+void LeaveProject(Session& session) {
+  Shell& shell = session.platform.shell;
   for (const Feature menu : {Feature::kDrawMenu, Feature::kEditMenu, Feature::kCalculateMenu,
                              Feature::kDisplayMenu, Feature::kPrintMenu, Feature::kViewMenu}) {
     shell.Enable(menu, false);
   }
+  shell.ClearPicture();
+  shell.SetPanel(Panel::kErrors, session.SuppressErrors ? "[OFF]" : "[ON]");
+  for (const Panel panel : {Panel::kCounts, Panel::kNodes}) shell.SetPanel(panel, "");
+  for (const Panel panel : {Panel::kCounts, Panel::kNodes, Panel::kErrors})
+    shell.SetPanelTip(panel, "");
 }
 
 }  // namespace zeb

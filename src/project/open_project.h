@@ -12,7 +12,7 @@ void ReadAndCheck(Session& session);
 // Opens a project file in place of the open project, whose changes are the caller's to save.
 void OpenProject(Session& session, const std::string& path);
 
-// Switches off what works on a checked project.
-void DisableProjectMenus(Shell& shell);
+// Shows nothing of the open project any more and switches off what works on a checked one.
+void LeaveProject(Session& session);
 
 }  // namespace zeb

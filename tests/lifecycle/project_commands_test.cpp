@@ -40,7 +40,10 @@ TEST_F(ProjectCommands, NewStartsFromTheLibrary) {
   files.Put("/prog/Library/user.hcl",
             "01 one\r\n   \r\n07 seven, longer than thirty characters\r\n");
   dialogs.answers = {Answer::kNo};
+  shell.panels[Panel::kCounts] = "of the project before";
   Fnew(session);
+  EXPECT_EQ(shell.panels[Panel::kCounts], "");
+  EXPECT_EQ(shell.panels[Panel::kView], "Plan");
   EXPECT_EQ(project.ProjectPath, kUntitled);
   EXPECT_EQ(project.LineCount, 0);
   EXPECT_EQ(project.PipeLines[1], "");

@@ -183,12 +183,13 @@ std::optional<int> ReadFileLines(Session& session, const std::string& path) {
   return lines;
 }
 
-// What was not read must not be saved over the file.
+// What was not read must not be saved over the file, nor what an undo would bring back.
 void LeaveUnread(Session& session) {
   session.project.ModelState = model_state::kStale;
+  ClearUndoHistory(session.project);
   Shell& shell = session.platform.shell;
-  shell.Enable(Feature::kSave, false);
-  shell.Enable(Feature::kSaveAs, false);
+  for (const Feature feature : {Feature::kSave, Feature::kSaveAs, Feature::kUndo})
+    shell.Enable(feature, false);
   shell.SetBusyPointer(false);
 }
 

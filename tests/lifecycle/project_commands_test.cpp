@@ -10,6 +10,7 @@
 #include "model/model_state.h"
 #include "project/project_data_form.h"
 #include "project/project_writer.h"
+#include "project/undo_history.h"
 #include "support/networks.h"
 #include "support/small_pipe_data.h"
 #include "support/test_session.h"
@@ -55,6 +56,16 @@ TEST_F(ProjectCommands, NewStartsFromTheLibrary) {
   EXPECT_EQ(project.UndoNames[1], "New ZEB Project... at 09:05:07");
   EXPECT_FALSE(shell.features[Feature::kDrawMenu]);
   EXPECT_TRUE(shell.features[Feature::kUndo]);
+}
+
+TEST_F(ProjectCommands, AFileThatCannotBeReadLeavesNothingToUndo) {
+  OpenProjectFile(session, "/jobs/job.zeb");
+  files.Put("/jobs/note.zeb", "no project");
+  OpenProjectFile(session, "/jobs/note.zeb");
+  EXPECT_FALSE(shell.features[Feature::kUndo]);
+  FundoOneStep(session);
+  EXPECT_EQ(project.LineCount, 0);
+  EXPECT_EQ(project.DataChanged, 0);
 }
 
 TEST_F(ProjectCommands, AnEmptyLibraryGivesOneHeadCode) {

@@ -38,7 +38,6 @@ void BeginUntitled(Project& project) {
   ClearCounts(project);
   ClearHeader(project);
   ResetView(project);
-  LeaveHeadSelection(project);
   project.ProjectPath = kUntitled;
   project.NewProjectFlag = 1;
   project.DataChanged = 0;
@@ -50,6 +49,7 @@ void ShowUntitled(Session& session) {
   Shell& shell = session.platform.shell;
   shell.SetTitle(session.project.ProductName + " Starting new ZEB Project file");
   LeaveProject(session);
+  LeaveHeadSelection(session);
   session.platform.commands.ViewCommandReset();
   shell.SetPanel(Panel::kView, session.project.ViewName);
   shell.Enable(Feature::kUndo, true);

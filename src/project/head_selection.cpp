@@ -2,7 +2,10 @@
 
 namespace zeb {
 
-void LeaveHeadSelection(Project& project) {
+void LeaveHeadSelection(Session& session) {
+  Project& project = session.project;
+  // Further clicks would pick heads that do not count.
+  if (project.SelectedHeadsMode == 1) session.platform.commands.ViewCommandReset();
   project.SelectedHeadsMode = 0;
   project.SelectedHeadCount = 0;
 }

@@ -171,9 +171,7 @@ void ProjectDataForm::SaveIfChanged() {
   Project& project = session_.project;
   project.DataChanged = 1;
   const bool has_path = !project.ProjectPath.empty() && project.ProjectPath != kUntitled;
-  if (!IsAnythingChanged()) return;
-  LeaveHeadSelection(project);
-  if (IsNewProject() || !has_path) return;
+  if (!IsAnythingChanged() || IsNewProject() || !has_path) return;
   MakeBackup(session_, project.ProjectPath, kBackupExtension, false);
   session_.platform.shell.SetPanel(Panel::kHint, "Backup File Created!");
   project.DataChanged = 0;
@@ -183,6 +181,7 @@ void ProjectDataForm::SaveIfChanged() {
 void ProjectDataForm::CloseForm() {
   session_.project.ModelState = model_state::kStale;
   session_.project.ZoomState = 0;
+  LeaveHeadSelection(session_);
   Shell& shell = session_.platform.shell;
   shell.Close(*this);
   // A command that waits for a node or a head of the network before would not draw the new one.

@@ -44,7 +44,7 @@ constexpr std::array kRenamedAuthorities{
 void ClearBeforeReading(Session& session) {
   session.platform.shell.ClearPicture();
   session.project.LineCount = 0;
-  LeaveHeadSelection(session.project);
+  LeaveHeadSelection(session);
 }
 
 void AnnounceReading(Session& session) {

@@ -79,7 +79,7 @@ void RestoreVersion(Session& session) {
   Project& project = session.project;
   project.DataChanged = 1;
   project.AutoSavePending = 0;
-  LeaveHeadSelection(project);
+  LeaveHeadSelection(session);
   project.UndoSlot = project.UndoIndex[project.UndoSeq].Slot;
   if (project.UndoSlot <= 0) return;
 

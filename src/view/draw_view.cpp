@@ -159,6 +159,7 @@ void Redraw::DrawMarkedNode() {
 void Redraw::ResumeHeadPicking() {
   if (project_.SelectedHeadsMode != 1 || project_.ModelState != model_state::kChecked) return;
   project_.CommandMode = project_.HeadBoxY2 > 3.0F ? kHeadBoxCommand : kPickHeadCommand;
+  session_.platform.shell.SetPanel(Panel::kMode, "OPERATING HEADS");
 }
 
 }  // namespace

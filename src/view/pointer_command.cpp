@@ -37,7 +37,7 @@ void ViewCommandReset(Session& session) {
 }
 
 void Dview(Session& session) {
-  LeaveHeadSelection(session.project);
+  LeaveHeadSelection(session);
   ViewCommandReset(session);
 }
 

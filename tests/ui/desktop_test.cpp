@@ -248,6 +248,12 @@ TEST_F(DesktopTest, ForgetsPickedHeadsWhenTheDataChange) {
   EXPECT_EQ(TheProject().SelectedHeadsMode, 0);
 
   pick_all();
+  Pick("FundoOneStep");
+  EXPECT_EQ(TheProject().SelectedHeadsMode, 0);
+  EXPECT_EQ(PanelText(3), "VIEW");
+
+  TheProject().DataChanged = 0;
+  pick_all();
   TheProject().DisplayItem = 2;
   user.Press("ZEBF02", "cmdCancel");
   Pick("Fnew");

@@ -211,8 +211,10 @@ TEST_F(DrawViewTest, GoesOnPickingHeadsInACheckedModel) {
     project_.SelectedHeadsMode = picking;
     project_.ModelState = state;
     project_.HeadBoxY2 = box_edge;
+    shell_.panels.clear();
     Draw();
     EXPECT_EQ(project_.CommandMode, mode);
+    EXPECT_EQ(shell_.panels[Panel::kMode], mode == 7 ? "" : "OPERATING HEADS");
   }
 }
 

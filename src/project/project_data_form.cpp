@@ -212,7 +212,17 @@ void ProjectDataForm::cmdCancel_Click() {
     project.DataChanged = 0;
   }
   session_.platform.shell.Close(*this);
+  RenewTables();
   session_.platform.shell.Redraw();
+}
+
+// Head codes and supplies are changed at once, so that the tables and results of a cancelled form
+// may be those of the values before.
+void ProjectDataForm::RenewTables() {
+  const bool outdated = HeadCodes.Changes > 0 || Supplies.InForceChanged();
+  if (!outdated || session_.project.PipeCount == 0) return;
+  LeaveHeadSelection(session_);
+  session_.platform.commands.CheckProject(CheckMode::kKeepLines);
 }
 
 void ProjectDataForm::cmdIssue_Click() {

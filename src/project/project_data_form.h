@@ -56,6 +56,7 @@ class ProjectDataForm : public Form {
   void StoreRemainingItems();
   void SaveIfChanged();
   void CloseForm();
+  void RenewTables();
   void KeepChoicesOfNewProject();
   [[nodiscard]] bool IsNewProject() const;
   [[nodiscard]] bool IsChanged(Item item) const;

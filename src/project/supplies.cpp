@@ -103,6 +103,7 @@ void SupplyEditor::StoreRow(int row) {
   values[kTankHeightValue] = NumberOf(TankHeight);
 
   Project& project = session_.project;
+  in_force_changed_ |= row == project.PumpCurveIndex && project.SupplyTable[row] != values;
   project.SupplyTable[row] = values;
   project.SupplyNames[row] = Trim(Reference);
   if (row > project.SupplyCount) project.SupplyCount = row;

@@ -46,6 +46,9 @@ class SupplyEditor {
   [[nodiscard]] bool Editing() const { return edited_row_ != 0; }
   [[nodiscard]] int SelectedRow() const { return selected_row_; }
 
+  // Whether the supply that the present results stand on was changed.
+  [[nodiscard]] bool InForceChanged() const { return in_force_changed_; }
+
   std::string SupplyName;  // the text for the project's item
   std::array<std::string, kSupplyPairs> Flows;
   std::array<std::string, kSupplyPairs> Pressures;
@@ -60,6 +63,7 @@ class SupplyEditor {
   std::array<std::string, kSupplyPairs> checked_flows_;  // as last judged
   int selected_row_ = 0;
   int edited_row_ = 0;
+  bool in_force_changed_ = false;
 };
 
 }  // namespace zeb

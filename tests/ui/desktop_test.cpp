@@ -321,6 +321,32 @@ TEST_F(DesktopTest, AddsAHeadCodeAndASupply) {
   EXPECT_EQ(TheProject().PipeLines[10], "Tank");
 }
 
+TEST_F(DesktopTest, DropsResultsWhoseSupplyOrHeadCodeIsChanged) {
+  AcceptCalculation();
+  Start(Example("dwelling.zeb"));
+  const auto change = [&](int page, const char* edit, const char* field, const char* store) {
+    Pick("Ccall");
+    ASSERT_EQ(TheProject().ModelState, model_state::kCalculated);
+    user.On("ZEBF02", [=](QDialog& form) {
+      const auto press = [&](const char* name) { form.findChild<QPushButton*>(name)->click(); };
+      form.findChild<QTabWidget*>("pages")->setCurrentIndex(page);
+      form.findChild<QListWidget*>("lstHeadCodes")->setCurrentRow(13);
+      press(edit);
+      form.findChild<QLineEdit*>(field)->clear();
+      QTest::keyClicks(form.findChild<QLineEdit*>(field), "61");
+      press(store);
+      press("cmdCancel");
+    });
+    Pick("Fdata");
+    EXPECT_EQ(TheProject().ModelState, model_state::kChecked);
+    EXPECT_FALSE(CanPick("Dcalc"));
+  };
+  change(2, "cmbPumpEdit", "txtPressure0", "cmbPumpSave");
+  EXPECT_EQ(TheProject().SupplyTable[TheProject().PumpCurveIndex][1], 61);
+  change(1, "cmdEdit", "txtKFactor", "cmdApplyHeadCode");
+  EXPECT_EQ(TheProject().HeadK[1], 61);
+}
+
 TEST_F(DesktopTest, UndoesAndAsksBeforeClosingWithChanges) {
   const std::string path = Example("dwelling.zeb");
   Start(path);

@@ -9,6 +9,13 @@
 namespace zeb {
 namespace {
 
+// A check that was stopped or failed is made again, as a part of a network must not pass for it.
+bool HasWholeNetwork(Session& session) {
+  if (session.project.CheckBroken == 0) return true;
+  session.platform.commands.CheckProject(CheckMode::kKeepLines);
+  return session.project.CheckBroken == 0;
+}
+
 void PrepareHeads(Session& session) {
   Project& project = session.project;
   if (project.SelectedHeadsMode == 1 && project.SelectedHeadCount > 0) {
@@ -24,6 +31,7 @@ void PrepareHeads(Session& session) {
 }  // namespace
 
 bool Ccall(Session& session) {
+  if (!HasWholeNetwork(session)) return false;
   Project& project = session.project;
   project.CalcSource = 1;
   project.HeadDensityEdited = 0;

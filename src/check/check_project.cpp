@@ -49,7 +49,9 @@ void CheckProject(Session& session, CheckMode mode) {
     FinishCheck(run);
   } catch (const CheckStopped&) {
     session.project.ModelState = model_state::kRead;
+    session.project.CheckBroken = 1;
   } catch (const RuntimeFailure& failure) {
+    session.project.CheckBroken = 1;
     ReportFailure(run, failure);
   }
   EndCheck(run);

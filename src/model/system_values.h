@@ -11,6 +11,8 @@ namespace zeb {
 // JSON dump run over these lists. Within a list the groups show who clears them together.
 
 // Integers that a check clears at its start.
+//   StopFlag     3 stops the check
+//   CheckBroken  1 when the check was stopped or failed: the tables hold a part of the network
 #define ZEB_CHECK_INTS(X) \
   X(PipeCount) \
   X(HeadCount) \
@@ -21,6 +23,7 @@ namespace zeb {
   X(SourceNode) \
   X(WarningCount) \
   X(StopFlag) \
+  X(CheckBroken) \
   X(MinSize) \
   X(MaxSize) \
   X(PipeDataErrorCount) \
@@ -31,7 +34,6 @@ namespace zeb {
 
 // Integers of the open project.
 //   RuleType        1 general, 2 NFPA, 3 FM: the rule type of the design authority
-//   StopFlag        3 stops the check
 //   ModelState      0 stale, 1 read, 2 checked, 3 calculated
 //   DataChanged     above 0 when the lines differ from the file
 //   SprinklerOrient 2 pendent, else 1

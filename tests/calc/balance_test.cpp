@@ -15,16 +15,13 @@
 #include "made_network.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
 
-using test::LossOf;
-
-struct Balance : test::TestSession {
+struct Balance : TestSession {
   bool Calculate() { return Calculation(session, CalculationMode::kSilent); }
 
-  Project& project = session.project;
-  test::MadeNetwork network{project};
+  MadeNetwork network{project};
 };
 
 // What every balanced result keeps, whatever the network: flows that meet at the nodes, heads on
@@ -215,4 +212,4 @@ TEST(BalanceTest, StartsOverWhenItDiverges) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

@@ -9,15 +9,15 @@
 #include "made_network.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
 
 using Fields = std::array<std::string, 4>;
 
 // A head of 9 m2 at node 12 and node 20 without one, with the limits of a first start.
-struct Options : test::TestSession {
+struct Options : TestSession {
   Options() {
-    test::MadeNetwork network(project);
+    MadeNetwork network(project);
     network.Pipe(1, 20, 3, 10.0F);
     network.Head(network.Pipe(20, 12, 1, 5.0F), 80.0F, 9.0F, 5.0F, 0.35F);
     ItemText(project, Item::kDesignArea) = "9";
@@ -28,15 +28,13 @@ struct Options : test::TestSession {
     project.maxVel = 6.0F;
     project.maxPD = 1.0F;
   }
-
-  Project& project = session.project;
 };
 
 TEST(CalcOptionsFormTest, OpensWithWhatIsInForce) {
   Options t;
   const CalcOptionsForm form(t.session);
   EXPECT_EQ(form.ComWaterSupply, "None");
-  EXPECT_EQ(form.ComWaterSupplyList, std::vector<std::string>{"None"});
+  EXPECT_EQ(form.ComWaterSupplyList, Texts{"None"});
   EXPECT_EQ(form.ot, (Fields{"0.0", "6.0", "1.0", ""}));
   EXPECT_TRUE(form.chkFind_MRH);
   EXPECT_FALSE(form.NodeEnabled);
@@ -152,4 +150,4 @@ TEST(CalcOptionsFormTest, StoresTheTextsInTheProject) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

@@ -12,11 +12,8 @@
 #include "services/text.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::MadeNetwork;
-using test::TestSession;
 
 // One head of 100 L/min at the end of two pipes, as a calculation leaves it.
 struct Calculated : TestSession {
@@ -48,8 +45,6 @@ struct Calculated : TestSession {
     project.ProjectPath = "/HALL.ZEB";
     ComputeResultTables(session);
   }
-
-  Project& project = session.project;
 };
 
 // A text of the fixtures, byte by byte.
@@ -178,4 +173,4 @@ TEST(CalcSummaryTest, OffersToVaryEnteredSizesOfADemand) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

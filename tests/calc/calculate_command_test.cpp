@@ -10,14 +10,12 @@
 #include "made_network.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::MadeNetwork;
 
 // Three heads of 9 m2 at nodes 11 to 13, which stand at (100, 100), (200, 100) and (300, 100) in
 // the picture. The options dialog of a calculation notes what it finds and gives up.
-struct ThreeHeads : test::TestSession {
+struct ThreeHeads : TestSession {
   ThreeHeads() {
     MadeNetwork network(project);
     for (int head = 1; head <= 3; ++head) {
@@ -43,7 +41,6 @@ struct ThreeHeads : test::TestSession {
     return heads;
   }
 
-  Project& project = session.project;
   std::string& prompt = shell.panels[Panel::kHint];
   std::string seen, seen_supply;
   float seen_demand = -1.0F;
@@ -83,7 +80,7 @@ TEST(OperatingHeadsTest, TogglesTheHeadsInABox) {
 TEST(OperatingHeadsTest, GoesOnWithAPick) {
   ThreeHeads t;
   Ccurr(t.session);
-  EXPECT_EQ(t.dialogs.Titles(), std::vector<std::string>{"No heads selected yet"});
+  EXPECT_EQ(t.dialogs.Titles(), Texts{"No heads selected yet"});
   EXPECT_EQ(t.project.SelectedHeadsMode, 0);
   EXPECT_EQ(PickHeadsByNodes(t.session, {13, 99, 11}), std::vector{99});
   Ccurr(t.session);
@@ -130,7 +127,7 @@ TEST_F(PartSaveTest, SavesTheOperatingHeads) {
   commands.on_compose = [&](int) { saved_as = project.SavedCopyPath; };
   dialogs.save_answers = {"/docs/Part.ZEB"};
   OfferPartSave(session);
-  EXPECT_EQ(dialogs.Titles(), std::vector<std::string>{"Save the operating heads"});
+  EXPECT_EQ(dialogs.Titles(), Texts{"Save the operating heads"});
   EXPECT_EQ(dialogs.saves[0].title, "New ZEB Project file name");
   EXPECT_EQ(saved_as, "/docs/Part.ZEB");
   EXPECT_TRUE(files.Has("/docs/Part.ZEB"));
@@ -153,4 +150,4 @@ TEST_F(PartSaveTest, AsksOnlyWithAPickThatStandsAndBeforeOverwriting) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

@@ -13,11 +13,11 @@
 #include "made_network.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
 
 // A feed and a range of twelve heads, whose options the user accepts.
-struct Command : test::TestSession {
+struct Command : TestSession {
   Command() {
     project.LineCount = kItemCount;
     shell.OnForm<CalcOptionsForm>("frmCalc", [](CalcOptionsForm& form) { form.OK_Click(); });
@@ -45,8 +45,7 @@ struct Command : test::TestSession {
     EXPECT_FALSE(shell.busy_pointer);
   }
 
-  Project& project = session.project;
-  test::MadeNetwork network{project};
+  MadeNetwork network{project};
 };
 
 TEST(CalculationTest, EndsWithResultsOnTheScreen) {
@@ -63,7 +62,7 @@ TEST(CalculationTest, EndsWithResultsOnTheScreen) {
   }
   EXPECT_EQ(run.commands.view_resets, 1);
   EXPECT_EQ(run.shell.redraws, 1);
-  EXPECT_EQ(run.shell.open_forms, std::vector<std::string>{"frmCalcProgress"});
+  EXPECT_EQ(run.shell.open_forms, Texts{"frmCalcProgress"});
   EXPECT_EQ(std::ranges::count(run.shell.closed_forms, "frmCalcProgress"), 1);
   EXPECT_FALSE(run.shell.refreshed_forms.empty());
   EXPECT_EQ(run.project.RemotestNode, 14);
@@ -210,4 +209,4 @@ TEST(CalculationTest, UnderNfpaRulesTheControlHeadIsTheFirstOfTheFour) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

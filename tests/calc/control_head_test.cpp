@@ -7,7 +7,7 @@
 #include "made_network.h"
 #include "support/failure_of.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
 
 // Two heads of K 80, 12 m2 and 5 mm/min, which need 60 L/min at 0.5625 bar. The second is at
@@ -23,7 +23,7 @@ struct TwoHeads {
 
   static constexpr float kFlow = 56.5685F;
   Project project;
-  test::MadeNetwork network{project};
+  MadeNetwork network{project};
 };
 
 TEST(ControlHeadTest, PinsTheHeadThatGoverns) {
@@ -71,7 +71,7 @@ TEST(FlowPathsTest, RefuseTablesInWhichAWalkWouldNotEnd) {
   const auto fails = [&](auto& row, int slot, auto value) {
     const auto before = row[slot];
     row[slot] = value;
-    const int number = test::FailureOf([&] { CheckFlowPaths(two.project); });
+    const int number = FailureOf([&] { CheckFlowPaths(two.project); });
     row[slot] = before;
     return number == failure::kSubscriptOutOfRange;
   };
@@ -83,4 +83,4 @@ TEST(FlowPathsTest, RefuseTablesInWhichAWalkWouldNotEnd) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

@@ -15,7 +15,7 @@
 #include "project/open_project.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
 
 std::string DataFile(const std::string& name) {
@@ -33,7 +33,7 @@ std::vector<int> NodeRuns(std::initializer_list<int> firsts, int count) {
   return nodes;
 }
 
-struct Example : test::TestSession {
+struct Example : TestSession {
   explicit Example(const std::string& name) {
     session.SuppressErrors = true;
     session.authorities.Parse(DataFile("authorities/DesignAuth.csv"));
@@ -53,8 +53,6 @@ struct Example : test::TestSession {
     }
     EXPECT_EQ(project.SelectedHeadCount, static_cast<int>(nodes.size()));
   }
-
-  Project& project = session.project;
 };
 
 TEST(ExamplesTest, GiveTheDutiesOfAnIndependentSolution) {
@@ -91,4 +89,4 @@ TEST(ExamplesTest, GiveTheDutiesOfAnIndependentSolution) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

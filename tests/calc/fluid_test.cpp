@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace zeb {
+namespace zeb::test {
 namespace {
 
 TEST(FluidTest, TakesTheSettingsFromTheFluidText) {
@@ -38,4 +38,4 @@ TEST(FluidTest, TakesTheSettingsFromTheFluidText) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

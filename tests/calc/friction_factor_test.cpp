@@ -6,7 +6,7 @@
 
 #include "calc/friction_table.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
 
 // The implicit equation of Colebrook and White, solved by iteration.
@@ -48,4 +48,4 @@ TEST(FrictionTableTest, InterpolatesBetweenFourCells) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

@@ -9,13 +9,13 @@
 #include "made_network.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
 
 // Two pipes and a head that keep all limits. A list is kept as its texts, one a line.
-struct WithinLimits : test::TestSession {
+struct WithinLimits : TestSession {
   WithinLimits() {
-    test::MadeNetwork network(project);
+    MadeNetwork network(project);
     network.Pipe(1, 2, 3, 4.0F);
     network.Pipe(2, 30, 1, 4.0F);
     for (int pipe = 1; pipe <= 2; ++pipe) {
@@ -40,8 +40,7 @@ struct WithinLimits : test::TestSession {
     });
   }
 
-  Project& project = session.project;
-  std::vector<std::string> headers;
+  Texts headers;
   std::string text;
 };
 
@@ -86,7 +85,7 @@ TEST(LimitListsTest, CountsALimitItselfAsBroken) {
     Row pipe_row;
     HeadRow head_row;
     float value;
-    std::vector<std::string> headers;
+    Texts headers;
   } cases[] = {
       {&PipeTables::PipeVelocity, {}, 1.0F, {"1 pipes with velocities under 1 m/s"}},
       {&PipeTables::PipeVelocity, {}, 1.001F, {}},
@@ -124,4 +123,4 @@ TEST(LimitListsTest, LeavesOutAddedBuildingsAndHeadsThatAreOff) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

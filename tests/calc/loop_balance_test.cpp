@@ -7,7 +7,7 @@
 #include "calc/pressure_loss.h"
 #include "made_network.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
 
 // Three ways of 10 m in DN 50 from node 2 to node 3, the last with an added drop of 0.1 bar; a loop
@@ -15,7 +15,7 @@ namespace {
 // method: the second loop sees what the first has changed in the pipe that they share.
 TEST(LoopBalanceTest, CorrectsLoopAfterLoop) {
   Project project;
-  test::MadeNetwork network(project);
+  MadeNetwork network(project);
   network.Pipe(1, 2, 5, 1.0F);
   for (const float flow : {400.0F, 200.0F, 100.0F, 0.0F}) {
     const int pipe = network.Pipe(2, 3, 3, 10.0F);
@@ -29,7 +29,7 @@ TEST(LoopBalanceTest, CorrectsLoopAfterLoop) {
   network.Loop({5});
   project.LoopFactor = 1.06F;
   project.PressureTol = 100.0F;
-  const auto loss = [](double flow) { return test::LossOf(flow, 53.1, 10.0); };
+  const auto loss = [](double flow) { return LossOf(flow, 53.1, 10.0); };
   const auto step = [&](double against, double with, double added) {
     const double ratio = loss(against) / against + (loss(with) + added) / with;
     return 1.06 * (loss(with) + added - loss(against)) / 1.85 / ratio;
@@ -45,4 +45,4 @@ TEST(LoopBalanceTest, CorrectsLoopAfterLoop) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

@@ -4,7 +4,7 @@
 
 #include "made_network.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
 
 // Feed to node 2, a ring 2-3-4-2 of which pipe 4 closes at node 3 and flows backward, a riser of
@@ -20,7 +20,7 @@ TEST(NodePressuresTest, SpreadFromTheSource) {
   const float nodes[] = {0,     4,     3.5F,  3.3F,           3.25F,
                          2.65F, 2.85F, 2.75F, kUnsetPressure, kUnsetPressure};
   Project project;
-  test::MadeNetwork network(project);
+  MadeNetwork network(project);
   for (const Pipe& p : pipes) {
     const int pipe = network.Pipe(p.start, p.end, 5, 10.0F, p.rise);
     project.PipeFlow[pipe] = p.flow;
@@ -36,4 +36,4 @@ TEST(NodePressuresTest, SpreadFromTheSource) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

@@ -12,15 +12,12 @@
 #include "made_network.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::LossOf;
-using test::MadeNetwork;
 
 // An unsized pipe of 10 m with 100 L/min: 2.85 m/s and 43.8 mbar/m in DN 25, 1.21 m/s and
 // 5.4 mbar/m in DN 40.
-struct OneUnsizedPipe : test::TestSession {
+struct OneUnsizedPipe : TestSession {
   OneUnsizedPipe() {
     MadeNetwork(project).Pipe(1, 2, 0, 10.0F);
     project.PipeUnsized[1] = 1;
@@ -30,8 +27,6 @@ struct OneUnsizedPipe : test::TestSession {
     project.SizingPdPerM = project.SizingLimit = 50.0F;
     project.SizingMinNominal = 25.0F;
   }
-
-  Project& project = session.project;
 };
 
 void SizeByGradient(Project& p, float limit) {
@@ -190,4 +185,4 @@ TEST(UnsizedPipesTest, CapturesTheChosenSizesOnYes) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

@@ -10,11 +10,8 @@
 #include "calc/fluid.h"
 #include "made_network.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::LossOf;
-using test::MadeNetwork;
 
 constexpr int kSize50 = 3;
 constexpr int kSize350 = 6;
@@ -122,4 +119,4 @@ TEST(PipeDropTest, FollowsTheFlow) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

@@ -12,16 +12,14 @@
 #include "made_network.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::MadeNetwork;
 
 using Four = std::array<int, 4>;
 
 // Nine heads in rows of three, 3 m apart, on 9 m2 each; slot 5 at (3, 3) is the remotest. All give
 // 50 L/min but that one with 45 and slot 9 at (6, 6) with 40. Head n stands at node 10 + n.
-struct NineHeads : test::TestSession {
+struct NineHeads : TestSession {
   explicit NineHeads(float spacing = 3.0F) {
     MadeNetwork network(project);
     for (int head = 1; head <= 9; ++head) {
@@ -44,8 +42,6 @@ struct NineHeads : test::TestSession {
     SearchRemoteHeads(session);
     return {project.MrHead1, project.MrHead2, project.MrHead3, project.MrHead4};
   }
-
-  Project& project = session.project;
 };
 
 TEST(RemoteHeadsTest, TakesTheCornerOfLeastDensity) {
@@ -238,4 +234,4 @@ TEST(DesignAreaTest, GradesTheDifference) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

@@ -7,13 +7,13 @@
 #include "made_network.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
 
 // Three sprinklers and an added building at the ends of pipes 2 to 5, and a pipe that closes back.
-struct Results : test::TestSession {
+struct Results : TestSession {
   Results() {
-    test::MadeNetwork network(project);
+    MadeNetwork network(project);
     const struct {
       int start, end, size;
       float length, flow, velocity, drop, end_pressure;
@@ -46,8 +46,6 @@ struct Results : test::TestSession {
     project.TotalHydrantFlow = 100.0F;
     project.SourceFlow = 700.0F;
   }
-
-  Project& project = session.project;
 };
 
 TEST(ResultTablesTest, RangesOverSprinklersAndSumsOverAllHeads) {
@@ -127,4 +125,4 @@ TEST(ResultTablesTest, SortsPipesByVelocity) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

@@ -7,10 +7,8 @@
 
 #include "made_network.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::MadeNetwork;
 
 TEST(SupplyCurveTest, SelectsByName) {
   Project project;
@@ -61,4 +59,4 @@ TEST(SupplyCurveTest, ReadsThePressureOffTheCurve) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

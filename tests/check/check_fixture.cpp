@@ -29,32 +29,31 @@ constexpr const char* kPipeData =
     "0,0,1,1,2\r\n"
     "5,6,10,15,20\r\n";
 
-const std::vector<std::string>& Items() {
-  static const std::vector<std::string> items = {"Test job",
-                                                 "---",
-                                                 "---",
-                                                 "---",
-                                                 "EN 12845 Rules",
-                                                 "---",
-                                                 "Water",
-                                                 "65",
-                                                 "test.pdt",
-                                                 "None",
-                                                 "Most Unfavourable",
-                                                 "1",
-                                                 "OH3",
-                                                 "5.00",
-                                                 "72",
-                                                 "---",
-                                                 "---",
-                                                 "---"};
+const Texts& Items() {
+  static const Texts items = {"Test job",
+                              "---",
+                              "---",
+                              "---",
+                              "EN 12845 Rules",
+                              "---",
+                              "Water",
+                              "65",
+                              "test.pdt",
+                              "None",
+                              "Most Unfavourable",
+                              "1",
+                              "OH3",
+                              "5.00",
+                              "72",
+                              "---",
+                              "---",
+                              "---"};
   return items;
 }
 
-const std::vector<std::string>& HeadCodes() {
-  static const std::vector<std::string> codes = {
-      "01 15.0  80.00   0.50 STD1    ", "02 10.0  57.00   0.35 LIGHT   ",
-      "03 20.0   0.00   0.50 ZERO    ", "04 20.0 242.00   0.60 LARGE   "};
+const Texts& HeadCodes() {
+  static const Texts codes = {"01 15.0  80.00   0.50 STD1    ", "02 10.0  57.00   0.35 LIGHT   ",
+                              "03 20.0   0.00   0.50 ZERO    ", "04 20.0 242.00   0.60 LARGE   "};
   return codes;
 }
 
@@ -85,7 +84,7 @@ void CheckFixture::Check(const std::string& pipe_lines, CheckMode mode) {
   CheckProject(session, mode);
 }
 
-std::vector<std::string> CheckFixture::Warnings() const { return SplitLines(project.WarningText); }
+Texts CheckFixture::Warnings() const { return SplitLines(project.WarningText); }
 
 std::vector<int> CheckFixture::FaultNumbers() const {
   std::vector<int> numbers;

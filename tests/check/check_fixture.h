@@ -20,13 +20,12 @@ struct CheckFixture : testing::Test, TestSession {
   void SetItem(Item item, const std::string& text) { ItemText(project, item) = text; }
 
   // The short lines of WarningText.
-  [[nodiscard]] std::vector<std::string> Warnings() const;
+  [[nodiscard]] Texts Warnings() const;
   // The numbers of the reported faults.
   [[nodiscard]] std::vector<int> FaultNumbers() const;
 
-  Project& project = session.project;
-  std::vector<std::string> captions;  // of the warning boxes
-  std::size_t stop_at = 0;            // the box at which the user stops, from 1
+  Texts captions;           // of the warning boxes
+  std::size_t stop_at = 0;  // the box at which the user stops, from 1
 };
 
 }  // namespace zeb::test

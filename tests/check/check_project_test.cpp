@@ -110,7 +110,7 @@ TEST_F(CheckRunning, StoppingAtABoxOpensTheProjectData) {
   EXPECT_EQ(captions.size(), 2U);
   EXPECT_EQ(project.ModelState, 1);
   EXPECT_EQ(project.PipeCount, 0);
-  EXPECT_EQ(shell.modal_forms, (std::vector<std::string>{"ZEBF04", "ZEBF04", "ZEBF02"}));
+  EXPECT_EQ(shell.modal_forms, (Texts{"ZEBF04", "ZEBF04", "ZEBF02"}));
   EXPECT_EQ(project.PipeLines[20], "2 3 50 3 Q");
   EXPECT_EQ(shell.redraws, 1);
   EXPECT_TRUE(shell.features[Feature::kDrawMenu]);
@@ -161,7 +161,7 @@ TEST_F(CheckRunning, AFailureEndsThePass) {
 TEST_F(CheckRunning, AnUnknownAuthorityOrPipeDataEndTheCheck) {
   SetItem(Item::kAuthority, "Nobody's rules");
   Check("1 2 50 3 N");
-  EXPECT_EQ(dialogs.Titles(), std::vector<std::string>{"Error with design authority"});
+  EXPECT_EQ(dialogs.Titles(), Texts{"Error with design authority"});
   EXPECT_FALSE(shell.features[Feature::kEditMenu]);
   EXPECT_FALSE(shell.features[Feature::kToolBars]);
   EXPECT_EQ(shell.redraws, 0);

@@ -47,15 +47,15 @@ TEST_F(CheckFixture, OnlyCleanLinesAreComposed) {
       "' A comment / 1 2 50 3 N / Z!Z! / 2 3 50 1000 N / 2 3 50 3 N / ab / 3 4 50 3 N 1 0 3 50 / 4 "
       "5 50 3 Q";
   Check(lines, CheckMode::kComposeLines);
-  const std::vector<std::string> expected = {"' A comment",
-                                             "   1    2  50   3.000 N           1  0",
-                                             "Z!Z!",
-                                             "2 3 50 1000 N  ???",
-                                             "2 3 50 3 N",  // a repeat is dropped
-                                             "ab",
-                                             "   3    4  50   3.000 N           1  0   3 50.000",
-                                             "4 5 50 3 Q  ???",
-                                             "END"};
+  const Texts expected = {"' A comment",
+                          "   1    2  50   3.000 N           1  0",
+                          "Z!Z!",
+                          "2 3 50 1000 N  ???",
+                          "2 3 50 3 N",  // a repeat is dropped
+                          "ab",
+                          "   3    4  50   3.000 N           1  0   3 50.000",
+                          "4 5 50 3 Q  ???",
+                          "END"};
   for (std::size_t i = 0; i < expected.size(); ++i) {
     EXPECT_EQ(project.PipeLines[19 + static_cast<int>(i)], expected[i]);
   }

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace zeb {
+namespace zeb::test {
 namespace {
 
 struct WordCase {
@@ -55,4 +55,4 @@ TEST(DirectionCode, WritesByWholeDegrees) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

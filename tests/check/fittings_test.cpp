@@ -42,7 +42,7 @@ struct WarningCase {
   int code;
   CheckMode mode;
   const char* lines;
-  std::vector<std::string> warnings;
+  Texts warnings;
 };
 
 TEST_F(CheckFixture, ShapesAndUsesAreWarnedOf) {

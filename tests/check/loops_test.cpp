@@ -69,7 +69,7 @@ TEST_F(Loops, TheLastRowTakesEachFurtherLoopAndTheModelIsTooLarge) {
   EXPECT_EQ(project.LoopCount, 1000);
   EXPECT_EQ(project.LoopListLength, 3000);
   EXPECT_EQ(Loop(1000), (std::vector{-3004, -3003, 3002}));
-  EXPECT_EQ(dialogs.Titles(), std::vector<std::string>{"System model size exceeded "});
+  EXPECT_EQ(dialogs.Titles(), Texts{"System model size exceeded "});
   EXPECT_FALSE(shell.features[Feature::kCalculateMenu]);
   EXPECT_FALSE(shell.features[Feature::kSave]);
 }
@@ -94,7 +94,7 @@ TEST_F(Loops, TheListHolds19999PipesAndFailsAtTheNext) {
 
   Check(LongLoops(8));
   EXPECT_EQ(project.ModelState, 1);
-  EXPECT_EQ(dialogs.Titles(), std::vector<std::string>{"Error 9 at line 80 in loop finding part"});
+  EXPECT_EQ(dialogs.Titles(), Texts{"Error 9 at line 80 in loop finding part"});
 }
 
 }  // namespace

@@ -20,11 +20,10 @@
 #include "support/failure_of.h"
 #include "temporary_folder.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
 
 namespace fs = std::filesystem;
-using test::FailureOf;
 using Texts = std::vector<std::string>;
 
 class PosixFileSystemTest : public testing::Test {
@@ -187,4 +186,4 @@ TEST_F(PosixFileSystemTest, AKilledSaveLeavesAWholeFile) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

@@ -12,11 +12,10 @@
 #include "support/failure_of.h"
 #include "temporary_folder.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
 
 namespace fs = std::filesystem;
-using test::FailureOf;
 
 class PosixMachineTest : public testing::Test {
  protected:
@@ -84,4 +83,4 @@ TEST(SystemClockTest, NeverRunsBackward) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

@@ -4,7 +4,7 @@
 #include <stdexcept>
 #include <system_error>
 
-namespace zeb {
+namespace zeb::test {
 
 TemporaryFolder::TemporaryFolder() {
   std::string name = std::filesystem::temp_directory_path() / "zeb-test-XXXXXX";
@@ -32,4 +32,4 @@ TemporaryVariable::~TemporaryVariable() {
   }
 }
 
-}  // namespace zeb
+}  // namespace zeb::test

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <string>
 
-namespace zeb {
+namespace zeb::test {
 
 // A folder for one test, gone with all its files at the end of the test.
 class TemporaryFolder {
@@ -36,4 +36,4 @@ class TemporaryVariable {
   std::string before_;
 };
 
-}  // namespace zeb
+}  // namespace zeb::test

@@ -13,11 +13,9 @@
 #include "support/memory_file_system.h"
 #include "temporary_folder.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
 
-using test::FailureOf;
-using test::MemoryFileSystem;
 using Entries = std::vector<ArchiveEntry>;
 
 const Entries kEntries{{"a.txt", "some text some text some text"},
@@ -103,4 +101,4 @@ TEST(ZipArchiveTest, OpensTheArchiveOfTheProgramFolder) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

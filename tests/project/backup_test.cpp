@@ -10,10 +10,8 @@
 #include "support/project_text.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::TestSession;
 
 struct Backup : testing::Test, TestSession {
   void Make(bool ask = false) { EXPECT_TRUE(MakeBackup(session, "/jobs/a.b.zeb", "ZE!", ask)); }
@@ -26,7 +24,7 @@ TEST_F(Backup, CopiesIntoTmpAndBesideTheFile) {
   Make();
   EXPECT_EQ(files.Bytes("/jobs/a.b.ZE!"), "new");
   EXPECT_EQ(files.Bytes("/prog/tmp/a.b.zeb"), "new");
-  EXPECT_EQ(machine.trashed, std::vector<std::string>{"/prog/tmp/a.b.zeb"});
+  EXPECT_EQ(machine.trashed, Texts{"/prog/tmp/a.b.zeb"});
   EXPECT_TRUE(dialogs.messages.empty());
 }
 
@@ -69,7 +67,7 @@ TEST_F(Backup, EmptyingTmpLeavesOtherFiles) {
   EmptyTmpFolder(session);
   EXPECT_EQ(files.AllFiles().size(), 5U);
   EmptyTmpFolder(session);
-  EXPECT_EQ(files.AllFiles(), (std::vector<std::string>{"/prog/tmp/notes.txt", "/prog/tmp/zeb"}));
+  EXPECT_EQ(files.AllFiles(), (Texts{"/prog/tmp/notes.txt", "/prog/tmp/zeb"}));
 }
 
 TEST_F(Backup, TheSupportBundleLeavesTheProjectUnsaved) {
@@ -86,4 +84,4 @@ TEST_F(Backup, TheSupportBundleLeavesTheProjectUnsaved) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

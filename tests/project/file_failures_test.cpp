@@ -6,10 +6,8 @@
 
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::TestSession;
 
 TEST(FileFailures, EachNumberHasItsBox) {
   struct Case {
@@ -51,4 +49,4 @@ TEST(FileFailures, RetriesAsLongAsTheUserAsks) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

@@ -9,23 +9,19 @@
 #include "support/failure_of.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::FailureOf;
-using test::TestSession;
 
 struct HeadCodes : testing::Test, TestSession {
   HeadCodes() { project.ProjectPath = "/JOBS/A.ZEB"; }
 
-  void SetLines(const std::vector<std::string>& lines) {
+  void SetLines(const Texts& lines) {
     project.HeadCodeLines.Clear();
     project.HeadCodeCount = 0;
     for (const std::string& line : lines) AppendHeadCodeLine(project, line);
   }
   void Fill(int count) {
-    SetLines(
-        std::vector<std::string>(static_cast<std::size_t>(count), "01 15.0  80.00   0.50 STD1"));
+    SetLines(Texts(static_cast<std::size_t>(count), "01 15.0  80.00   0.50 STD1"));
   }
   void Enter(const char* size, const char* k, const char* pressure, const char* name) {
     editor.Size = size;
@@ -35,7 +31,6 @@ struct HeadCodes : testing::Test, TestSession {
     editor.cmdApplyHeadCode_Click();
   }
 
-  Project& project = session.project;
   HeadCodeEditor editor{session};
 };
 
@@ -235,4 +230,4 @@ TEST_F(Compacting, WithoutHeadsDoesNothing) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

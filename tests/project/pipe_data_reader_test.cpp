@@ -14,11 +14,8 @@
 #include "support/small_pipe_data.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::SmallPipeData;
-using test::TestSession;
 
 struct PipeDataReader : testing::Test, TestSession {
   PipeDataReader() {
@@ -36,8 +33,7 @@ struct PipeDataReader : testing::Test, TestSession {
     ReadPipeData(session, mode);
   }
 
-  Project& project = session.project;
-  std::vector<std::string> captions;
+  Texts captions;
   bool stop_at_fault = false;
 };
 
@@ -49,17 +45,17 @@ std::string BytesOf(const std::filesystem::path& path) {
 }
 
 // What a fault says, in the order of the fixture.
-std::vector<std::string> TextsOf(const CheckFault& fault) {
+Texts TextsOf(const CheckFault& fault) {
   return {std::to_string(fault.number), fault.location, fault.problem, fault.reason,
           fault.correction};
 }
 
 TEST_F(PipeDataReader, ReportsEachFaultInItsWords) {
-  const std::vector<std::string> lines = SplitLines(BytesOf(ZEB_FIXTURES "/pipe_data_faults.txt"));
+  const Texts lines = SplitLines(BytesOf(ZEB_FIXTURES "/pipe_data_faults.txt"));
   int cases = 0;
   for (std::size_t at = 3; at + 5 < lines.size(); at += 7, ++cases) {
     SCOPED_TRACE(lines[at]);
-    std::vector<std::string> texts(lines.begin() + at + 1, lines.begin() + at + 6);
+    Texts texts(lines.begin() + at + 1, lines.begin() + at + 6);
     for (std::string& text : texts) text = ReplaceAll(text, "\\n", "\r\n");
     project.Faults.clear();
     project.PipeDataErrorCount = 4;
@@ -69,8 +65,7 @@ TEST_F(PipeDataReader, ReportsEachFaultInItsWords) {
     ASSERT_EQ(project.Faults.size(), 1U);
     EXPECT_EQ(TextsOf(project.Faults[0]), texts);
     EXPECT_EQ(project.ErrorCorrection, texts[4]);
-    EXPECT_EQ(captions,
-              std::vector<std::string>{"ZEB Warning No: 5 in Pipe / Fittings Data File TEST.PDT"});
+    EXPECT_EQ(captions, Texts{"ZEB Warning No: 5 in Pipe / Fittings Data File TEST.PDT"});
     EXPECT_EQ(project.PipeSizeCount, 3);
   }
   EXPECT_EQ(cases, 11);
@@ -169,12 +164,11 @@ TEST_F(PipeDataReader, HoldsAsManyRecordsAsItsTables) {
     EXPECT_EQ(project.ValveCount, 20);
   }
   EXPECT_EQ(TextsOf(project.Faults[0]),
-            (std::vector<std::string>{
-                "20", "First line of file is incorrect",
-                "[Error 20] It should have 3 numbers separated by commas",
-                "1 = 50 Pipe Types  (Maximum = 30)\r\n2 = 30 Pipe Sizes  (Maximum = 20)\r\n"
-                "3 = 21 Valve Types (Maximum = 20)\r\n",
-                "Refer to listing of file or the user manual"}));
+            (Texts{"20", "First line of file is incorrect",
+                   "[Error 20] It should have 3 numbers separated by commas",
+                   "1 = 50 Pipe Types  (Maximum = 30)\r\n2 = 30 Pipe Sizes  (Maximum = 20)\r\n"
+                   "3 = 21 Valve Types (Maximum = 20)\r\n",
+                   "Refer to listing of file or the user manual"}));
 }
 
 TEST_F(PipeDataReader, LineBreaksBetweenFieldsCarryNoMeaning) {
@@ -262,7 +256,7 @@ TEST_F(PipeDataReader, FindsItsFileWhateverTheCase) {
   dialogs.answers = {Answer::kYes};
   ReadPipeData(session, CheckMode::kKeepLines);
   EXPECT_EQ(project.TypeC[1], 120.0F);
-  EXPECT_EQ(dialogs.Titles(), std::vector<std::string>{"TEST.PDT"});
+  EXPECT_EQ(dialogs.Titles(), Texts{"TEST.PDT"});
 }
 
 TEST_F(PipeDataReader, FallsBackToTheStandardFolderThenToTheStandardFile) {
@@ -303,7 +297,7 @@ TEST_F(PipeDataReader, StopsTheCheckWithoutAnyFile) {
 TEST_F(PipeDataReader, StopsTheCheckForBytesThatAreNoPipeData) {
   std::string noise;
   for (int i = 0; i < 5000; ++i) noise += static_cast<char>(i * 7919 % 256);
-  const std::vector<std::string> broken = {
+  const Texts broken = {
       "",
       "\r\n\r\n",
       ",,,,,,,,,",
@@ -354,4 +348,4 @@ TEST_F(PipeDataReader, ReadsTheShippedFilesWithoutAReport) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

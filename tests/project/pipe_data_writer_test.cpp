@@ -10,12 +10,8 @@
 #include "support/small_pipe_data.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::FailureOf;
-using test::SmallPipeData;
-using test::TestSession;
 
 struct PipeDataWriter : testing::Test, TestSession {
   PipeDataWriter() { project.PipeDataFile = "TEST.PDT"; }
@@ -25,7 +21,6 @@ struct PipeDataWriter : testing::Test, TestSession {
     ReadPipeData(session, CheckMode::kSilent);
   }
 
-  Project& project = session.project;
   const std::string path = session.folders.PdtFolder + "/TEST.PDT";
   const std::string backup = session.folders.PdtFolder + "/TEST.BAK";
 };
@@ -107,4 +102,4 @@ TEST_F(PipeDataWriter, AFailureLeavesTheOldFileOrTheNewOne) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

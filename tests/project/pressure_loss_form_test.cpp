@@ -8,10 +8,8 @@
 #include "project/project_items.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::TestSession;
 
 struct PressureLoss : testing::Test, TestSession {};
 
@@ -56,11 +54,11 @@ TEST_F(PressureLoss, WritesWhatIsPicked) {
   form.ComPLE = "Darcy-Weisbach";
   form.ComPLE_Click();
   EXPECT_EQ(form.ComWaterTemp, "21.1");
-  const std::vector<std::string> fluids = {"DWF DENS=999.9 VISC=1.5",  "DWF DENS=999.7 VISC=1.3",
-                                           "DWF DENS=999.8 VISC=1.1",  "DWF DENS=998.0 VISC=0.95",
-                                           "DWF DENS=996.6 VISC=0.85", "DWF DENS=995.4 VISC=0.74",
-                                           "DWF DENS=993.6 VISC=0.66"};
-  const std::vector<std::string> temperatures = PressureLossForm::Temperatures();
+  const Texts fluids = {"DWF DENS=999.9 VISC=1.5",  "DWF DENS=999.7 VISC=1.3",
+                        "DWF DENS=999.8 VISC=1.1",  "DWF DENS=998.0 VISC=0.95",
+                        "DWF DENS=996.6 VISC=0.85", "DWF DENS=995.4 VISC=0.74",
+                        "DWF DENS=993.6 VISC=0.66"};
+  const Texts temperatures = PressureLossForm::Temperatures();
   ASSERT_EQ(temperatures.size(), fluids.size());
   for (std::size_t i = 0; i < fluids.size(); ++i) {
     form.ComWaterTemp = temperatures[i];
@@ -81,4 +79,4 @@ TEST_F(PressureLoss, ANewProjectTakesItsFluidFromTheSettings) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

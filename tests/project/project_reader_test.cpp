@@ -11,15 +11,10 @@
 #include "support/project_text.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
 
-using test::FileText;
-using test::Joined;
-using test::NumberedItems;
-using test::TestSession;
-
-const std::vector<std::string> kTail{"END", "01 15.0  80.00   0.50 STD1    "};
+const Texts kTail{"END", "01 15.0  80.00   0.50 STD1    "};
 
 struct ProjectReader : testing::Test, TestSession {
   ProjectReader() {
@@ -32,15 +27,11 @@ struct ProjectReader : testing::Test, TestSession {
     files.Put("/jobs/job.zeb", bytes);
     ReadProject(session);
   }
-  void Read(const std::vector<std::string>& head, const std::vector<std::string>& lines) {
-    Read(FileText(Joined(head, lines)));
-  }
-  [[nodiscard]] std::vector<std::string> Lines() const {
+  void Read(const Texts& head, const Texts& lines) { Read(FileText(Joined(head, lines))); }
+  [[nodiscard]] Texts Lines() const {
     const auto lines = project.PipeLines.Slots();
     return {lines.begin() + 1, lines.begin() + 1 + project.LineCount};
   }
-
-  Project& project = session.project;
 };
 
 TEST_F(ProjectReader, LeavesAFreshProject) {
@@ -65,13 +56,13 @@ TEST_F(ProjectReader, LeavesAFreshProject) {
 // The same lines under every header and with every line end. A lower-case end is no END.
 TEST_F(ProjectReader, TellsTheFormatsApart) {
   struct Case {
-    std::vector<std::string> head;
-    std::vector<std::string> expected;
+    Texts head;
+    Texts expected;
   };
-  const std::vector<std::string> body = {"a", "", " b", "   ", "end"};
-  const std::vector<std::string> tail = {" END ", "", "01 one", "END", std::string(31, 'x')};
-  const std::vector<std::string> kept = {"a", "", "b", "", "end", "END"};
-  const std::vector<std::string> dropped = {"a", "b", "", "end", "END"};
+  const Texts body = {"a", "", " b", "   ", "end"};
+  const Texts tail = {" END ", "", "01 one", "END", std::string(31, 'x')};
+  const Texts kept = {"a", "", "b", "", "end", "END"};
+  const Texts dropped = {"a", "b", "", "end", "END"};
   for (const Case& c : {
            Case{{"me,now,002,1"}, dropped},
            Case{{"me,now,002,2", "x", "y", "z"}, dropped},
@@ -94,14 +85,14 @@ TEST_F(ProjectReader, TellsTheFormatsApart) {
 TEST_F(ProjectReader, ALegacyFileKeepsAllLinesAndTakesTheLibrarysHeadCodes) {
   files.Put("/prog/Library/USER.HCL", "01 first\r\n\r\n03 a line longer than thirty characters");
   Read({"12:30,01/02/1995,x,3"}, {"a", "", " b ", "END", "after"});
-  EXPECT_EQ(Lines(), (std::vector<std::string>{"a", "", "b", "END", "after"}));
+  EXPECT_EQ(Lines(), (Texts{"a", "", "b", "END", "after"}));
   EXPECT_EQ(project.HeadCodeCount, 3);
   EXPECT_EQ(project.HeadCodeLines[2], "");
   EXPECT_EQ(project.HeadCodeLines[3], "03 a line longer than thirty characters");
 }
 
 TEST_F(ProjectReader, TranslatesOldAuthorityNames) {
-  std::vector<std::string> lines = NumberedItems();
+  Texts lines = NumberedItems();
   lines[4] = "AS2118.1, Standards Australia - Fire Sprinkler";
   Read({"me,now,001,2", "", "", ""}, Joined(lines, kTail));
   EXPECT_EQ(project.PipeLines[5], "AS2118.1 : Standards Australia - Fire Sprinkler");
@@ -134,7 +125,7 @@ TEST_F(ProjectReader, RefusesWhatItCannotRead) {
     Read(c.bytes);
     EXPECT_EQ(project.LineCount, 0) << c.name;
     EXPECT_EQ(project.ModelState, model_state::kStale) << c.name;
-    EXPECT_EQ(dialogs.Titles(), std::vector<std::string>{c.title}) << c.name;
+    EXPECT_EQ(dialogs.Titles(), Texts{c.title}) << c.name;
     EXPECT_FALSE(shell.features[Feature::kSave]) << c.name;
     EXPECT_FALSE(shell.busy_pointer) << c.name;
   }
@@ -144,12 +135,12 @@ TEST_F(ProjectReader, TakesStrangeBytesAsTheyAre) {
   const std::string binary("a\0b\xff", 4);
   const std::string huge(2'000'000, 'x');
   Read({"me,now,001,3", "", "", ""}, {binary, huge, "c", "d", "e", "END", "1"});
-  EXPECT_EQ(Lines(), (std::vector<std::string>{binary, huge, "c", "d", "e", "END"}));
+  EXPECT_EQ(Lines(), (Texts{binary, huge, "c", "d", "e", "END"}));
 }
 
 // Whatever a project file is cut off at, it is read or refused, and memory stays in order.
 TEST_F(ProjectReader, SurvivesAFileCutAnywhere) {
-  const std::string whole = test::ProjectFile({"1 2 50 1.0 N", "2 3 50 1.0 N"});
+  const std::string whole = ProjectFile({"1 2 50 1.0 N", "2 3 50 1.0 N"});
   for (std::size_t size = 0; size < whole.size(); ++size) {
     Read(whole.substr(0, size));
     EXPECT_LE(project.LineCount, 21) << size;
@@ -159,7 +150,7 @@ TEST_F(ProjectReader, SurvivesAFileCutAnywhere) {
 TEST_F(ProjectReader, StoresTwoVersionsAndBacksUpTheFile) {
   session.AutoSave = true;
   project.AutoSaveCounter = 5;  // an automatic save is due, but there is nothing to save
-  const std::string bytes = test::ProjectFile({});
+  const std::string bytes = ProjectFile({});
   Read(bytes);
   EXPECT_EQ(project.UndoSeq, 2);
   EXPECT_EQ(project.UndoNames[1], "As read in from disk at 09:05:07");
@@ -179,4 +170,4 @@ TEST_F(ProjectReader, ANewProjectHasNoFileToRead) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

@@ -9,14 +9,8 @@
 #include "support/project_text.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::FileText;
-using test::Joined;
-using test::MemoryFileSystem;
-using test::NumberedItems;
-using test::TestSession;
 
 constexpr const char* kPath = "/jobs/job.zeb";
 
@@ -33,7 +27,7 @@ struct ProjectWriter : testing::Test, TestSession {
     project.HeadCodeLines[1] = "01 15.0  80.00   0.50 STD1        /JOBS/JOB.ZEB";
   }
 
-  void SetLines(const std::vector<std::string>& texts) {
+  void SetLines(const Texts& texts) {
     project.LineCount = 0;
     for (const std::string& text : texts) {
       ++project.LineCount;
@@ -41,9 +35,8 @@ struct ProjectWriter : testing::Test, TestSession {
     }
   }
 
-  Project& project = session.project;
   const std::string code = "01 15.0  80.00   0.50 STD1    ";
-  const std::vector<std::string> lines = Joined(NumberedItems(), {"1 2 50 1.0 N", "' note", "END"});
+  const Texts lines = Joined(NumberedItems(), {"1 2 50 1.0 N", "' note", "END"});
 };
 
 TEST_F(ProjectWriter, WritesEachMode) {
@@ -56,8 +49,8 @@ TEST_F(ProjectWriter, WritesEachMode) {
   const std::string stamp = "ID7,22/11/2026 09:05:07,";
   struct Case {
     SaveMode mode;
-    std::vector<std::string> head;
-    std::vector<std::string> codes;
+    Texts head;
+    Texts codes;
   };
   for (const Case& c : {
            Case{SaveMode::kLinesOnly, {stamp + ","}, {}},
@@ -76,11 +69,11 @@ TEST_F(ProjectWriter, WritesEachMode) {
 
 TEST_F(ProjectWriter, AnEndIsWrittenWhereItStandsAndAddedWhenItIsNotTheLastLine) {
   struct Case {
-    std::vector<std::string> lines;
-    std::vector<std::string> written;
-    std::vector<std::string> written_in_mode_0;
+    Texts lines;
+    Texts written;
+    Texts written_in_mode_0;
   };
-  const std::vector<std::string> items = NumberedItems();
+  const Texts items = NumberedItems();
   for (const Case& c : {
            Case{{"", "1", "end", "  "}, {"1", "end", "END"}, {"1", "end", "END"}},
            Case{{"1", "END", "2"}, {"1", "END", "2", "END"}, {"1", "2", "END"}},
@@ -172,7 +165,7 @@ TEST_F(ProjectWriter, ACheckedCopyHoldsTheComposedPipes) {
     project.ComposedLine = "pipe " + std::to_string(pipe);
   };
   EXPECT_TRUE(SaveCheckedCopy(session, "/jobs/copy.zeb"));
-  std::vector<std::string> items = NumberedItems();
+  Texts items = NumberedItems();
   items[1] = "";
   EXPECT_EQ(files.Bytes("/jobs/copy.zeb"),
             FileText(Joined(
@@ -184,4 +177,4 @@ TEST_F(ProjectWriter, ACheckedCopyHoldsTheComposedPipes) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

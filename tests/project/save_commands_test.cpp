@@ -11,17 +11,15 @@
 #include "support/networks.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::TestSession;
 
 struct SaveCommands : testing::Test, TestSession {
   SaveCommands() {
     project.ProductName = "ZEB";
     project.SaveFormat = 3;
     session.AutoSave = false;
-    files.Put("/jobs/job.zeb", test::ProjectFile({" 1 2 50 1.0 N"}));
+    files.Put("/jobs/job.zeb", ProjectFile({" 1 2 50 1.0 N"}));
   }
 
   void Open() {
@@ -41,8 +39,6 @@ struct SaveCommands : testing::Test, TestSession {
   [[nodiscard]] bool Saved(const std::string& path) const {
     return files.Bytes(path).find("changed") != std::string::npos;
   }
-
-  Project& project = session.project;
 };
 
 TEST_F(SaveCommands, TheQuestionDecidesAboutChanges) {
@@ -50,12 +46,12 @@ TEST_F(SaveCommands, TheQuestionDecidesAboutChanges) {
     Open();
     dialogs.answers = {answer};
     EXPECT_TRUE(CheckSaveChanges(session));
-    EXPECT_EQ(dialogs.Titles(), std::vector<std::string>{"Save ZEB Project Data"});
+    EXPECT_EQ(dialogs.Titles(), Texts{"Save ZEB Project Data"});
     EXPECT_EQ(Saved("/jobs/job.zeb"), answer == Answer::kYes);
     EXPECT_EQ(project.DataChanged, 0);
     EXPECT_TRUE(CheckSaveChanges(session));  // nothing left to ask
     EXPECT_EQ(dialogs.messages.size(), 1U);
-    files.Put("/jobs/job.zeb", test::ProjectFile({" 1 2 50 1.0 N"}));
+    files.Put("/jobs/job.zeb", ProjectFile({" 1 2 50 1.0 N"}));
   }
 }
 
@@ -75,7 +71,7 @@ TEST_F(SaveCommands, AnUntitledProjectIsNamed) {
   EXPECT_TRUE(CheckSaveChanges(session));
   EXPECT_EQ(project.ProjectPath, "/OTHER/NEW JOB.ZEB");
   EXPECT_TRUE(Saved("/other/New job.zeb"));
-  EXPECT_EQ(shell.recent_files, std::vector<std::string>{"/other/New job.zeb"});
+  EXPECT_EQ(shell.recent_files, Texts{"/other/New job.zeb"});
   EXPECT_EQ(session.settings.GetIniValue(setting::kProjFolder), "/other");
 }
 
@@ -144,4 +140,4 @@ TEST_F(SaveCommands, VersionsAreNumbered) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

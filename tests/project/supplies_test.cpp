@@ -6,10 +6,8 @@
 
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::TestSession;
 
 struct Supplies : testing::Test, TestSession {
   Supplies() {
@@ -19,7 +17,6 @@ struct Supplies : testing::Test, TestSession {
     project.SupplyTable[2] = {0, 5.5F, 1000, 4.25F};
   }
 
-  Project& project = session.project;
   SupplyEditor editor{session};
 };
 
@@ -118,4 +115,4 @@ TEST_F(Supplies, FlowsAscend) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

@@ -9,11 +9,8 @@
 #include "support/failure_of.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::FailureOf;
-using test::TestSession;
 
 TEST(DesignAuthoritiesTest, AnswersForTheRuleTypeAndTheStaticValue) {
   TestSession test;
@@ -110,4 +107,4 @@ TEST(AuthFormTest, TellsAClickBesideTheRows) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

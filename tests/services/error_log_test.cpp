@@ -10,11 +10,8 @@
 #include "services/text.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::TestSession;
-using Texts = std::vector<std::string>;
 
 constexpr const char* kLog = "/prog/ZEB_error.log";
 
@@ -112,4 +109,4 @@ TEST(SupportBundleTest, CopiesNoOlderBundleAfterAFailure) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

@@ -8,11 +8,8 @@
 #include "support/failure_of.h"
 #include "support/memory_file_system.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::FailureOf;
-using test::MemoryFileSystem;
 
 const std::string kOld = "the old bytes";
 const std::string kNew = "the new and longer bytes";
@@ -94,4 +91,4 @@ TEST(CopyFileSafelyTest, KeepsTheOldCopyWhenItFails) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

@@ -8,10 +8,8 @@
 
 #include "support/failure_of.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::FailureOf;
 
 TEST(ValTest, ReadsTheLongestNumberPrefix) {
   const struct {
@@ -165,4 +163,4 @@ TEST(FixedNumberTest, DropsAFractionOfAlmostNothing) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

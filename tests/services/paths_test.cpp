@@ -9,10 +9,8 @@
 #include "services/project_paths.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::TestSession;
 
 TEST(PathsTest, SplitsAtEitherSeparator) {
   const struct {
@@ -107,4 +105,4 @@ TEST(RealPathTest, NamesANewFileAsTyped) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

@@ -12,13 +12,8 @@
 #include "support/failure_of.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::FailureOf;
-using test::MemoryFileSystem;
-using test::TestSession;
-using Texts = std::vector<std::string>;
 
 constexpr const char* kIni = "/config/ZEB/zeb.ini";
 
@@ -147,4 +142,4 @@ TEST(FormPositionTest, IsCentredUntilStored) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

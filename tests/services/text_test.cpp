@@ -8,7 +8,7 @@
 #include "services/code_page.h"
 #include "services/dates.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
 
 using Texts = std::vector<std::string>;
@@ -80,4 +80,4 @@ TEST(DatesTest, HaveFixedForms) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

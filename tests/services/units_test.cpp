@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace zeb {
+namespace zeb::test {
 namespace {
 
 TEST(UnitsTest, ShowsValuesInTheChosenUnit) {
@@ -32,4 +32,4 @@ TEST(UnitsTest, ShowsValuesInTheChosenUnit) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

@@ -11,7 +11,8 @@
 namespace zeb::test {
 
 using Texts = std::vector<std::string>;
-using Boxes = std::vector<std::pair<std::string, std::string>>;  // title and text of each
+using ShownBox = std::pair<std::string, std::string>;  // title and text
+using Boxes = std::vector<ShownBox>;
 
 // Keeps every box that was shown and answers from the scripted queues. With an empty queue a
 // message takes its default answer, an input keeps its initial text, a file dialog is cancelled.

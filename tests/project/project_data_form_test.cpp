@@ -10,6 +10,7 @@
 #include "project/pressure_loss_form.h"
 #include "project/stored_references.h"
 #include "services/text.h"
+#include "support/project_text.h"
 #include "support/test_session.h"
 
 namespace zeb::test {
@@ -27,12 +28,9 @@ struct OpenJob : TestSession {
     project.SaveFormat = 3;
     files.PutFolder("/JOBS");
     files.Put("/JOBS/A.ZEB", "old");
-    const Texts items = {"Job", "Street",       "12",   "AB",   "EN 12845 Rules", "---", "Water",
-                         "65",  "STD_PIPE.PDT", "None", "Area", "1 -LC",          "OH3", "5.00",
-                         "216", "D1",           "---",  "no"};
-    for (std::size_t i = 0; i < items.size(); ++i) {
-      project.PipeLines[static_cast<int>(i) + 1] = items[i];
-    }
+    SetLines(project, Split("Job|Street|12|AB|EN 12845 Rules|---|Water|65|STD_PIPE.PDT|None|"
+                            "Area|1 -LC|OH3|5.00|216|D1|---|no",
+                            "|"));
     project.HeadCodeLines[1] = "01 15.0  80.00   0.50 STD1";
     project.HeadCodeCount = 1;
     SetPipeLines({"1 2 65 3.0 N 1 0 1 12", "' comment", "Z!Z! 2 3 50", "2 3 50 4.0 E", "END"});
@@ -42,24 +40,14 @@ struct OpenJob : TestSession {
               "AMAO=216\r\nDRGN=D1\r\nISSU=---\r\n");
   }
 
-  void SetPipeLines(const Texts& lines) {
-    int count = kItemCount;
-    for (const std::string& line : lines) project.PipeLines[++count] = line;
-    project.LineCount = count;
-  }
+  void SetPipeLines(const Texts& lines) { SetLines(project, lines, kFirstPipeLine); }
   void BeginNewProject() {
     project.PipeLines.Clear();
     project.LineCount = 0;
     project.NewProjectFlag = 1;
     project.ProjectPath = "[Untitled]";
   }
-  [[nodiscard]] Texts PipeLines() const {
-    Texts lines;
-    for (int line = kFirstPipeLine; line <= session.project.LineCount; ++line) {
-      lines.push_back(session.project.PipeLines[line]);
-    }
-    return lines;
-  }
+  [[nodiscard]] Texts PipeLines() const { return LinesOf(project, kFirstPipeLine); }
 
   ProjectDataForm form{session};
 };
@@ -107,25 +95,32 @@ TEST_F(ProjectData, ApplyWithoutAChangeOnlyChecks) {
 }
 
 TEST(ProjectDataChanges, AreSavedByApply) {
-  const std::map<std::string, void (*)(OpenJob&)> changes = {
-      {"an item", [](OpenJob& job) { job.form.Field(Item::kHazard) = "HHP2"; }},
-      {"an emptied item", [](OpenJob& job) { job.form.Field(Item::kDrawing) = " "; }},
-      {"the comments", [](OpenJob& job) { job.form.Field(Item::kComments) = "-EP"; }},
-      {"the supply", [](OpenJob& job) { job.form.Supplies.SupplyName = "Town"; }},
-      {"the pipes", [](OpenJob& job) { job.form.Text.Boxes[0] += "3 4 50 1.0 N"; }},
-      {"a new reference", [](OpenJob& job) { job.project.JobReferences[1] = "PROJ=Other"; }},
-      {"a head code",
-       [](OpenJob& job) {
-         job.form.HeadCodes.cmdAddHeadCode_Click();
-         job.form.HeadCodes.cmdApplyHeadCode_Click();
-       }},
+  struct Case {
+    const char* what;
+    void (*change)(OpenJob&);
+    int sizes = 21;  // 0 when the pipe data have to be read again
   };
-  for (const auto& [name, change] : changes) {
-    SCOPED_TRACE(name);
+  for (const Case& c : {
+           Case{"an item", [](OpenJob& job) { job.form.Field(Item::kHazard) = "HHP2"; }},
+           Case{"an emptied item", [](OpenJob& job) { job.form.Field(Item::kDrawing) = " "; }},
+           Case{"the comments", [](OpenJob& job) { job.form.Field(Item::kComments) = "-EP"; }},
+           Case{"pipe data", [](OpenJob& job) { job.form.Field(Item::kPipeData) = "Other"; }, 0},
+           Case{"authority", [](OpenJob& job) { job.form.Field(Item::kAuthority) = "Other"; }, 0},
+           Case{"the supply", [](OpenJob& job) { job.form.Supplies.SupplyName = "Town"; }},
+           Case{"the pipes", [](OpenJob& job) { job.form.Text.Boxes[0] += "3 4 50 1.0 N"; }},
+           Case{"reference", [](OpenJob& job) { job.project.JobReferences[1] = "PROJ=Other"; }},
+           Case{"a head code",
+                [](OpenJob& job) {
+                  job.form.HeadCodes.cmdAddHeadCode_Click();
+                  job.form.HeadCodes.cmdApplyHeadCode_Click();
+                }},
+       }) {
+    SCOPED_TRACE(c.what);
     OpenJob job;
     job.form.Form_Load();
-    change(job);
+    c.change(job);
     job.form.cmdApply_Click();
+    EXPECT_EQ(job.project.PipeSizeCount, c.sizes);
     EXPECT_NE(job.files.Bytes("/JOBS/A.ZEB"), "old");
     EXPECT_EQ(job.files.Bytes("/JOBS/A.ZE!"), "old");
     EXPECT_EQ(job.project.DataChanged, 0);
@@ -137,28 +132,9 @@ TEST_F(ProjectData, EmptyItemsTakeTheirDefaults) {
   form.Form_Load();
   form.Field(Item::kPipeData) = "";
   form.cmdApply_Click();
-  const Texts expected = {"---",
-                          "---",
-                          "---",
-                          "---",
-                          "EN 12845 Rules",
-                          "---",
-                          "Water",
-                          "65",
-                          "STD_PIPE.PDT",
-                          "None",
-                          "Most Unfavourable",
-                          "1",
-                          "High Hazard",
-                          "0.00",
-                          "0",
-                          "---",
-                          "---",
-                          "---"};
-  for (int item = 1; item <= kItemCount; ++item) {
-    EXPECT_EQ(project.PipeLines[item], expected[static_cast<std::size_t>(item) - 1]) << item;
-  }
-  EXPECT_EQ(project.LineCount, 18);
+  EXPECT_EQ(LinesOf(project), Split("---|---|---|---|EN 12845 Rules|---|Water|65|STD_PIPE.PDT|None|"
+                                    "Most Unfavourable|1|High Hazard|0.00|0|---|---|---",
+                                    "|"));
   EXPECT_EQ(project.DataChanged, 1);
   EXPECT_FALSE(files.Has("[Untitled]"));
 }
@@ -179,17 +155,6 @@ TEST_F(ProjectData, ANewProjectTakesAndKeepsTheChoicesOfTheSettings) {
   EXPECT_EQ(session.settings.GetIniValue("ProjData", "PDT", ""), "METRIC.PDT");
 }
 
-TEST_F(ProjectData, PipeDataAreReadAgainForAnotherFileOrAuthority) {
-  for (const Item item : {Item::kPipeData, Item::kAuthority}) {
-    project.PipeSizeCount = 21;
-    ProjectDataForm changed(session);
-    changed.Form_Load();
-    changed.Field(item) = "Another";
-    changed.cmdApply_Click();
-    EXPECT_EQ(project.PipeSizeCount, 0);
-  }
-}
-
 TEST_F(ProjectData, LinesOfTheBoxesBecomeTheProjects) {
   form.Form_Load();
   form.Text.Boxes[0] = "  1 2 65 3.0 N  \r\nEND\r\n\r\nend of zone\n' last";
@@ -203,9 +168,7 @@ TEST_F(ProjectData, TextBeyondTheBoxesIsToldAndKept) {
   const Texts lines(2400, line);
   SetPipeLines(lines);
   form.Form_Load();
-  ASSERT_EQ(dialogs.messages.size(), 1U);
-  EXPECT_EQ(dialogs.messages[0].title, "Job is much too big");
-  EXPECT_EQ(dialogs.messages[0].text, "Text box 4 has too many chars");
+  EXPECT_EQ(dialogs.Shown(), (Boxes{{"Job is much too big", "Text box 4 has too many chars"}}));
   for (const std::string& box : form.Text.Boxes) EXPECT_EQ(box.size(), 588U * 102U);
   form.cmdApply_Click();
   EXPECT_EQ(PipeLines(), lines);
@@ -286,9 +249,10 @@ TEST_F(ProjectData, CompactShowsTheRenumberedLines) {
   project.ModelState = model_state::kChecked;
   dialogs.answers = {Answer::kNo};
   form.cmdCompact_Click();
-  EXPECT_EQ(dialogs.messages.back().title, "Compact  Head Codes");
-  EXPECT_EQ(dialogs.messages.back().text,
-            "Do you wish to remove heads codes which are not used in this project file  ");
+  EXPECT_EQ(
+      dialogs.Shown().back(),
+      ShownBox("Compact  Head Codes",
+               "Do you wish to remove heads codes which are not used in this project file  "));
   EXPECT_EQ(project.HeadCodeCount, 2);
   dialogs.answers = {Answer::kYes};
   form.cmdCompact_Click();

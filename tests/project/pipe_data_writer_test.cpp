@@ -46,12 +46,13 @@ TEST_F(PipeDataWriter, WritesFixedFields) {
             " 2.00, 5.00, 10.00\r\n"
             " 5.00,10.00, 20.00\r\n");
   EXPECT_EQ(files.Bytes(backup), SmallPipeData().Text());
-  ASSERT_EQ(dialogs.messages.size(), 1U);
-  EXPECT_EQ(dialogs.messages[0].title, path + " updated");
-  EXPECT_EQ(dialogs.messages[0].text,
-            path + " has been updated with new pipe types/sizes with a backup in " + backup +
-                "\r\n\r\nIf you want to amend any of the data, choose 'Options' from the top menu. "
-                "Click on 'OK' to continue.");
+  EXPECT_EQ(
+      dialogs.Shown(),
+      (Boxes{
+          {path + " updated",
+           path + " has been updated with new pipe types/sizes with a backup in " + backup +
+               "\r\n\r\nIf you want to amend any of the data, choose 'Options' from the top menu. "
+               "Click on 'OK' to continue."}}));
 }
 
 TEST_F(PipeDataWriter, LosesNothingThatANarrowFieldCannotHold) {

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "model/model_state.h"
@@ -28,10 +30,6 @@ struct ProjectReader : testing::Test, TestSession {
     ReadProject(session);
   }
   void Read(const Texts& head, const Texts& lines) { Read(FileText(Joined(head, lines))); }
-  [[nodiscard]] Texts Lines() const {
-    const auto lines = project.PipeLines.Slots();
-    return {lines.begin() + 1, lines.begin() + 1 + project.LineCount};
-  }
 };
 
 TEST_F(ProjectReader, LeavesAFreshProject) {
@@ -55,29 +53,24 @@ TEST_F(ProjectReader, LeavesAFreshProject) {
 
 // The same lines under every header and with every line end. A lower-case end is no END.
 TEST_F(ProjectReader, TellsTheFormatsApart) {
-  struct Case {
-    Texts head;
-    Texts expected;
-  };
   const Texts body = {"a", "", " b", "   ", "end"};
   const Texts tail = {" END ", "", "01 one", "END", std::string(31, 'x')};
   const Texts kept = {"a", "", "b", "", "end", "END"};
   const Texts dropped = {"a", "b", "", "end", "END"};
-  for (const Case& c : {
-           Case{{"me,now,002,1"}, dropped},
-           Case{{"me,now,002,2", "x", "y", "z"}, dropped},
-           Case{{"me,now,002,3", "x", "y", "z"}, kept},
-           Case{{"me,now,002,3X", "x", "y", "z"}, kept},
-           Case{{"me,now,002,3,4", "x", "y", "z"}, kept},
-           Case{{R"( "me",now, 002, "3")", "x", "y", "z"}, kept},
-           Case{{"me", "now", "002", "3", "x", "y", "z"}, kept},
-       }) {
+  const std::pair<Texts, Texts> cases[] = {{{"me,now,002,1"}, dropped},
+                                           {{"me,now,002,2", "x", "y", "z"}, dropped},
+                                           {{"me,now,002,3", "x", "y", "z"}, kept},
+                                           {{"me,now,002,3X", "x", "y", "z"}, kept},
+                                           {{"me,now,002,3,4", "x", "y", "z"}, kept},
+                                           {{R"( "me",now, 002, "3")", "x", "y", "z"}, kept},
+                                           {{"me", "now", "002", "3", "x", "y", "z"}, kept}};
+  for (const auto& [head, expected] : cases) {
     for (const char* end : {"\r\n", "\r", "\n"}) {
-      Read(ReplaceAll(FileText(Joined(Joined(c.head, body), tail)), kLineBreak, end));
-      EXPECT_EQ(Lines(), c.expected) << c.head[0];
-      EXPECT_EQ(project.HeaderOrigin, "me") << c.head[0];
-      EXPECT_EQ(project.HeadCodeLines[1], "01 one                        ") << c.head[0];
-      EXPECT_EQ(project.HeadCodeLines[2], std::string(30, 'x')) << c.head[0];
+      Read(ReplaceAll(FileText(Joined(Joined(head, body), tail)), kLineBreak, end));
+      EXPECT_EQ(LinesOf(project), expected) << head[0];
+      EXPECT_EQ(project.HeaderOrigin, "me") << head[0];
+      EXPECT_EQ(Slots(project.HeadCodeLines, 1, 2),
+                (Texts{"01 one                        ", std::string(30, 'x')}));
     }
   }
 }
@@ -85,10 +78,9 @@ TEST_F(ProjectReader, TellsTheFormatsApart) {
 TEST_F(ProjectReader, ALegacyFileKeepsAllLinesAndTakesTheLibrarysHeadCodes) {
   files.Put("/prog/Library/USER.HCL", "01 first\r\n\r\n03 a line longer than thirty characters");
   Read({"12:30,01/02/1995,x,3"}, {"a", "", " b ", "END", "after"});
-  EXPECT_EQ(Lines(), (Texts{"a", "", "b", "END", "after"}));
-  EXPECT_EQ(project.HeadCodeCount, 3);
-  EXPECT_EQ(project.HeadCodeLines[2], "");
-  EXPECT_EQ(project.HeadCodeLines[3], "03 a line longer than thirty characters");
+  EXPECT_EQ(LinesOf(project), (Texts{"a", "", "b", "END", "after"}));
+  EXPECT_EQ(Slots(project.HeadCodeLines, 1, project.HeadCodeCount),
+            (Texts{"01 first", "", "03 a line longer than thirty characters"}));
 }
 
 TEST_F(ProjectReader, TranslatesOldAuthorityNames) {
@@ -99,35 +91,30 @@ TEST_F(ProjectReader, TranslatesOldAuthorityNames) {
 }
 
 TEST_F(ProjectReader, RefusesWhatItCannotRead) {
-  struct Case {
-    const char* name;
-    std::string bytes;
-    const char* title;
-  };
   const std::string rest = "\r\n\r\n\r\n\r\na\r\nEND\r\n01\r\n";
   const std::string head = "me,now,001,3\r\n\r\n\r\n\r\n";
-  std::string too_many_lines = head;
-  for (int line = 0; line <= kLastLine; ++line) too_many_lines += "x\r\n";
-  std::string too_many_codes = head + "a\r\nEND\r\n";
-  for (int code = 0; code <= kLastHeadCode; ++code) too_many_codes += "x\r\n";
-  for (const Case& c : {
-           Case{"empty", "", "Disk File Error"},
-           Case{"ends behind END", head + "a\r\nEND\r\n", "Disk File Error"},
-           Case{"version 7", "me,now,001,7" + rest, "File Error - Unknown file format"},
-           Case{"no version", "me,now,001,\r\n3 High Street", "File Error - Unknown file format"},
-           Case{"no number", "me,now,x01,3" + rest, "ZEB"},
-           Case{"many lines", too_many_lines, "ZEB"},
-           Case{"many head codes", too_many_codes, "ZEB"},
-           Case{"many head codes told", "me,now,401,3" + rest, "ZEB"},
-           Case{"legacy without a library", "12:30,a,b,c\r\na\r\n", "Disk File Error"},
-       }) {
+  const std::string too_many_lines = head + FileText(Texts(kLastLine + 1, "x"));
+  const std::string too_many_codes =
+      head + "a\r\nEND\r\n" + FileText(Texts(kLastHeadCode + 1, "x"));
+  const std::tuple<const char*, std::string, const char*> cases[] = {
+      {"empty", "", "Disk File Error"},
+      {"ends behind END", head + "a\r\nEND\r\n", "Disk File Error"},
+      {"version 7", "me,now,001,7" + rest, "File Error - Unknown file format"},
+      {"no version", "me,now,001,\r\n3 High Street", "File Error - Unknown file format"},
+      {"no number", "me,now,x01,3" + rest, "ZEB"},
+      {"many lines", too_many_lines, "ZEB"},
+      {"many head codes", too_many_codes, "ZEB"},
+      {"many head codes told", "me,now,401,3" + rest, "ZEB"},
+      {"legacy without a library", "12:30,a,b,c\r\na\r\n", "Disk File Error"}};
+  for (const auto& [what, bytes, title] : cases) {
+    SCOPED_TRACE(what);
     dialogs.messages.clear();
-    Read(c.bytes);
-    EXPECT_EQ(project.LineCount, 0) << c.name;
-    EXPECT_EQ(project.ModelState, model_state::kStale) << c.name;
-    EXPECT_EQ(dialogs.Titles(), Texts{c.title}) << c.name;
-    EXPECT_FALSE(shell.features[Feature::kSave]) << c.name;
-    EXPECT_FALSE(shell.busy_pointer) << c.name;
+    Read(bytes);
+    EXPECT_EQ(project.LineCount, 0);
+    EXPECT_EQ(project.ModelState, model_state::kStale);
+    EXPECT_EQ(dialogs.Titles(), Texts{title});
+    EXPECT_FALSE(shell.features[Feature::kSave]);
+    EXPECT_FALSE(shell.busy_pointer);
   }
 }
 
@@ -135,7 +122,7 @@ TEST_F(ProjectReader, TakesStrangeBytesAsTheyAre) {
   const std::string binary("a\0b\xff", 4);
   const std::string huge(2'000'000, 'x');
   Read({"me,now,001,3", "", "", ""}, {binary, huge, "c", "d", "e", "END", "1"});
-  EXPECT_EQ(Lines(), (Texts{binary, huge, "c", "d", "e", "END"}));
+  EXPECT_EQ(LinesOf(project), (Texts{binary, huge, "c", "d", "e", "END"}));
 }
 
 // Whatever a project file is cut off at, it is read or refused, and memory stays in order.
@@ -153,11 +140,10 @@ TEST_F(ProjectReader, StoresTwoVersionsAndBacksUpTheFile) {
   const std::string bytes = ProjectFile({});
   Read(bytes);
   EXPECT_EQ(project.UndoSeq, 2);
-  EXPECT_EQ(project.UndoNames[1], "As read in from disk at 09:05:07");
-  EXPECT_EQ(project.UndoNames[2], project.UndoNames[1]);
-  EXPECT_EQ(files.Bytes("/jobs/job.zeb"), bytes);
-  EXPECT_EQ(files.Bytes("/jobs/job.ZE!"), bytes);
-  EXPECT_EQ(files.Bytes("/prog/tmp/job.zeb"), bytes);
+  EXPECT_EQ(Slots(project.UndoNames, 1, 2), Texts(2, "As read in from disk at 09:05:07"));
+  for (const char* path : {"/jobs/job.zeb", "/jobs/job.ZE!", "/prog/tmp/job.zeb"}) {
+    EXPECT_EQ(files.Bytes(path), bytes) << path;
+  }
 }
 
 TEST_F(ProjectReader, ANewProjectHasNoFileToRead) {

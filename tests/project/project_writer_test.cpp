@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "project/project_reader.h"
@@ -22,17 +23,9 @@ struct ProjectWriter : testing::Test, TestSession {
     session.Identifier = "ID7";
     files.PutFolder("/jobs");
     session.RealPaths["/JOBS/JOB.ZEB"] = kPath;
-    SetLines(Joined(NumberedItems(), {"1 2 50 1.0 N  ", "Z!Z! 2 3", "' note", "END"}));
+    SetLines(project, Joined(NumberedItems(), {"1 2 50 1.0 N  ", "Z!Z! 2 3", "' note", "END"}));
     project.HeadCodeCount = 1;
     project.HeadCodeLines[1] = "01 15.0  80.00   0.50 STD1        /JOBS/JOB.ZEB";
-  }
-
-  void SetLines(const Texts& texts) {
-    project.LineCount = 0;
-    for (const std::string& text : texts) {
-      ++project.LineCount;
-      project.PipeLines[project.LineCount] = text;
-    }
   }
 
   const std::string code = "01 15.0  80.00   0.50 STD1    ";
@@ -47,64 +40,45 @@ TEST_F(ProjectWriter, WritesEachMode) {
   project.SupplyTable[2][16] = -1.0F;
   const std::string record = "item 10|0|2.5|0|0|0|0|0|0|0|0|0|0|0|0|0|0|-1";
   const std::string stamp = "ID7,22/11/2026 09:05:07,";
-  struct Case {
-    SaveMode mode;
-    Texts head;
-    Texts codes;
-  };
-  for (const Case& c : {
-           Case{SaveMode::kLinesOnly, {stamp + ","}, {}},
-           Case{SaveMode::kVersion1, {stamp + "00100000022,1"}, {code}},
-           Case{SaveMode::kVersion2, {stamp + "00100000022,2", "USER,COMPUTER", "", ""}, {code}},
-           Case{SaveMode::kVersion3, {stamp + "00100000022,3", "USER,COMPUTER", "", ""}, {code}},
-           Case{SaveMode::kPumpRecord,
-                {stamp + "00100000022,3", "USER,COMPUTER", record, ""},
-                {code}},
-       }) {
-    EXPECT_TRUE(SaveProject(session, c.mode));
-    EXPECT_EQ(files.Bytes(kPath), FileText(Joined(Joined(c.head, lines), c.codes)))
-        << static_cast<int>(c.mode);
+  const std::tuple<SaveMode, Texts, Texts> cases[] = {
+      {SaveMode::kLinesOnly, {stamp + ","}, {}},
+      {SaveMode::kVersion1, {stamp + "00100000022,1"}, {code}},
+      {SaveMode::kVersion2, {stamp + "00100000022,2", "USER,COMPUTER", "", ""}, {code}},
+      {SaveMode::kVersion3, {stamp + "00100000022,3", "USER,COMPUTER", "", ""}, {code}},
+      {SaveMode::kPumpRecord, {stamp + "00100000022,3", "USER,COMPUTER", record, ""}, {code}}};
+  for (const auto& [mode, head, codes] : cases) {
+    EXPECT_TRUE(SaveProject(session, mode));
+    EXPECT_EQ(files.Bytes(kPath), FileText(Joined(Joined(head, lines), codes))) << head[0];
   }
 }
 
 TEST_F(ProjectWriter, AnEndIsWrittenWhereItStandsAndAddedWhenItIsNotTheLastLine) {
-  struct Case {
-    Texts lines;
-    Texts written;
-    Texts written_in_mode_0;
-  };
   const Texts items = NumberedItems();
-  for (const Case& c : {
-           Case{{"", "1", "end", "  "}, {"1", "end", "END"}, {"1", "end", "END"}},
-           Case{{"1", "END", "2"}, {"1", "END", "2", "END"}, {"1", "2", "END"}},
-           Case{{"1", "ENDING", "END  "}, {"1", "ENDING", "END"}, {"1", "END"}},
-       }) {
-    SetLines(Joined(items, c.lines));
+  const std::tuple<Texts, Texts, Texts> cases[] = {
+      {{"", "1", "end", "  "}, {"1", "end", "END"}, {"1", "end", "END"}},
+      {{"1", "END", "2"}, {"1", "END", "2", "END"}, {"1", "2", "END"}},
+      {{"1", "ENDING", "END  "}, {"1", "ENDING", "END"}, {"1", "END"}}};
+  for (const auto& [given, written, written_in_mode_0] : cases) {
+    SetLines(project, Joined(items, given));
     SaveProject(session, SaveMode::kVersion1);
-    EXPECT_TRUE(files.Bytes(kPath).ends_with(FileText(Joined(Joined(items, c.written), {code}))));
+    EXPECT_TRUE(files.Bytes(kPath).ends_with(FileText(Joined(Joined(items, written), {code}))));
     SaveProject(session, SaveMode::kLinesOnly);
-    EXPECT_TRUE(files.Bytes(kPath).ends_with(FileText(Joined(items, c.written_in_mode_0))));
+    EXPECT_TRUE(files.Bytes(kPath).ends_with(FileText(Joined(items, written_in_mode_0))));
   }
 }
 
 TEST_F(ProjectWriter, WhoWroteTheFileFirstStaysNamedInIt) {
-  struct Case {
-    const char* origin;
-    const char* stamp;
-    const char* version;
-    const char* head;
-  };
-  for (const Case& c : {
-           Case{"FIRST", "1/2/2003", "2", "FIRST,1/2/2003,"},
-           Case{"FIRST", "1/2/2003", "", "ID7,22/11/2026 09:05:07,"},
-           Case{"", "1/2/2003", "3", "ID7,1/2/2003,"},
-           Case{"09:41", "1/2/1995", "x", "ID7,1/2/1995,"},  // read back, it would be legacy
-       }) {
-    project.HeaderOrigin = c.origin;
-    project.HeaderStamp = c.stamp;
-    project.HeaderVersion = c.version;
+  const std::tuple<const char*, const char*, const char*, const char*> cases[] = {
+      {"FIRST", "1/2/2003", "2", "FIRST,1/2/2003,"},
+      {"FIRST", "1/2/2003", "", "ID7,22/11/2026 09:05:07,"},
+      {"", "1/2/2003", "3", "ID7,1/2/2003,"},
+      {"09:41", "1/2/1995", "x", "ID7,1/2/1995,"}};  // read back, it would be legacy
+  for (const auto& [origin, stamp, version, head] : cases) {
+    project.HeaderOrigin = origin;
+    project.HeaderStamp = stamp;
+    project.HeaderVersion = version;
     SaveProject(session, SaveMode::kVersion3);
-    EXPECT_TRUE(files.Bytes(kPath).starts_with(c.head)) << files.Bytes(kPath).substr(0, 40);
+    EXPECT_TRUE(files.Bytes(kPath).starts_with(head)) << files.Bytes(kPath).substr(0, 40);
   }
 }
 
@@ -117,10 +91,7 @@ TEST_F(ProjectWriter, WhatIsSavedReadsBack) {
   EXPECT_EQ(project.UndoDescription, "Data saved");
   EXPECT_EQ(shell.pictures[Panel::kSaveState], kPictureSaved);
   ReadProject(session);
-  ASSERT_EQ(project.LineCount, static_cast<int>(lines.size()));
-  for (int line = 1; line <= project.LineCount; ++line) {
-    EXPECT_EQ(project.PipeLines[line], lines[static_cast<std::size_t>(line) - 1]);
-  }
+  EXPECT_EQ(LinesOf(project), lines);
 }
 
 // Whatever operation fails or is the last one of a killed program.
@@ -156,8 +127,9 @@ TEST_F(ProjectWriter, AtAnyMomentTheOldFileOrTheNewOneStandsWhole) {
 }
 
 TEST_F(ProjectWriter, ACheckedCopyHoldsTheComposedPipes) {
-  SetLines(Joined(NumberedItems(), {"as typed", "' note", "END"}));
-  project.PipeLines[2] = "";
+  Texts items = NumberedItems();
+  items[1] = "";
+  SetLines(project, Joined(items, {"as typed", "' note", "END"}));
   project.PipeCount = 3;
   project.PipeError[2] = kPipeDeleted;
   commands.on_compose = [&](int pipe) {
@@ -165,8 +137,6 @@ TEST_F(ProjectWriter, ACheckedCopyHoldsTheComposedPipes) {
     project.ComposedLine = "pipe " + std::to_string(pipe);
   };
   EXPECT_TRUE(SaveCheckedCopy(session, "/jobs/copy.zeb"));
-  Texts items = NumberedItems();
-  items[1] = "";
   EXPECT_EQ(files.Bytes("/jobs/copy.zeb"),
             FileText(Joined(
                 Joined({"ID7,22/11/2026 09:05:07,00100000021,3", "USER,COMPUTER", "", ""}, items),

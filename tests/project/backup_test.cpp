@@ -7,6 +7,7 @@
 
 #include "project/empty_tmp.h"
 #include "project/project_bundle.h"
+#include "services/text.h"
 #include "support/project_text.h"
 #include "support/test_session.h"
 
@@ -55,8 +56,7 @@ TEST_F(Backup, AReadOnlyFolderIsToldAndPassedOver) {
   Make();
   EXPECT_EQ(files.Bytes("/prog/tmp/a.b.zeb"), "new");
   ASSERT_EQ(dialogs.messages.size(), 1U);
-  EXPECT_NE(dialogs.messages[0].text.find("in ZEB.Open_Save.MakeBackup at line 70"),
-            std::string::npos);
+  EXPECT_TRUE(Contains(dialogs.messages[0].text, "in ZEB.Open_Save.MakeBackup at line 70"));
 }
 
 TEST_F(Backup, EmptyingTmpLeavesOtherFiles) {
@@ -71,11 +71,10 @@ TEST_F(Backup, EmptyingTmpLeavesOtherFiles) {
 }
 
 TEST_F(Backup, TheSupportBundleLeavesTheProjectUnsaved) {
-  session.project.DataChanged = 1;
-  session.project.LineCount = 1;
-  session.project.PipeLines[1] = "item";
+  project.DataChanged = 1;
+  SetLines(project, {"item"});
   savePrjDataToZIP(session);
-  EXPECT_EQ(session.project.DataChanged, 1);
+  EXPECT_EQ(project.DataChanged, 1);
   const auto& entries = archive.archives["/prog/ZEB_prj_err_dat.zip"].entries;
   ASSERT_EQ(entries.size(), 1U);
   EXPECT_EQ(entries[0].name, "22112026090507.zeb");

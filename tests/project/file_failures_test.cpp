@@ -3,37 +3,28 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 
+#include "services/text.h"
 #include "support/test_session.h"
 
 namespace zeb::test {
 namespace {
 
 TEST(FileFailures, EachNumberHasItsBox) {
-  struct Case {
-    int number;
-    const char* title;
-    std::string text;
-    MessageButtons buttons;
-  };
-  for (const Case& c : {
-           Case{61, "Drive File Error", "Disk or device is full! \r\n",
-                MessageButtons::kRetryCancel},
-           Case{70, "Disk File Error", "Permission denied", MessageButtons::kOk},
-           Case{9, "ZEB", "Subscript out of range\r\n 9ZEB at line 30", MessageButtons::kOk},
-       }) {
+  const std::tuple<int, ShownBox, MessageButtons> cases[] = {
+      {61, {"Drive File Error", "Disk or device is full! \r\n"}, MessageButtons::kRetryCancel},
+      {70, {"Disk File Error", "Permission denied"}, MessageButtons::kOk},
+      {9, {"ZEB", "Subscript out of range\r\n 9ZEB at line 30"}, MessageButtons::kOk}};
+  for (const auto& [number, box, buttons] : cases) {
     TestSession test;
     test.session.project.ProductName = "ZEB";
     test.dialogs.answers = {Answer::kCancel};
-    EXPECT_FALSE(
-        RunFileStatement(test.session, "X.Y", 30, [&] { throw RuntimeFailure(c.number); }));
-    ASSERT_EQ(test.dialogs.messages.size(), 1U);
-    const Message& message = test.dialogs.messages[0];
-    EXPECT_EQ(message.title, c.title);
-    EXPECT_EQ(message.text, c.text);
-    EXPECT_EQ(message.buttons, c.buttons) << c.number;
-    EXPECT_NE(test.files.Bytes("/prog/ZEB_error.log").find(std::to_string(c.number)),
-              std::string::npos);
+    const RuntimeFailure failure(number);
+    EXPECT_FALSE(RunFileStatement(test.session, "X.Y", 30, [&] { throw failure; }));
+    ASSERT_EQ(test.dialogs.Shown(), Boxes{box});
+    EXPECT_EQ(test.dialogs.messages[0].buttons, buttons) << number;
+    EXPECT_TRUE(Contains(test.files.Bytes("/prog/ZEB_error.log"), std::to_string(number)));
   }
 }
 

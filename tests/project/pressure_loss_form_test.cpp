@@ -15,13 +15,9 @@ struct PressureLoss : testing::Test, TestSession {};
 
 TEST_F(PressureLoss, ShowsWhatTheFluidTextSays) {
   struct Case {
-    const char* fluid;
-    const char* equation;
-    const char* temperature;
-    const char* density;
-    const char* after_ok;
+    const char *fluid, *equation, *temperature, *density, *after_ok;
   };
-  const std::vector<Case> cases = {
+  const Case cases[] = {
       {"Water", "Hazen Williams", "", "", "Water"},
       {"FOAM SG=1.1", "Hazen Williams", "", "", "FOAM SG=1.1"},
       {"DWF DENS=998 VISC=0.95", "Darcy-Weisbach", "21.1", "998", "DWF DENS=998 VISC=0.95"},

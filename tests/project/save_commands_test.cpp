@@ -8,6 +8,7 @@
 #include "project/open_project.h"
 #include "project/project_writer.h"
 #include "project/save_question.h"
+#include "services/text.h"
 #include "support/networks.h"
 #include "support/test_session.h"
 
@@ -37,7 +38,7 @@ struct SaveCommands : testing::Test, TestSession {
     project.DataChanged = 1;
   }
   [[nodiscard]] bool Saved(const std::string& path) const {
-    return files.Bytes(path).find("changed") != std::string::npos;
+    return Contains(files.Bytes(path), "changed");
   }
 };
 
@@ -77,12 +78,12 @@ TEST_F(SaveCommands, AnUntitledProjectIsNamed) {
 
 TEST_F(SaveCommands, AnUntitledProjectIsDroppedOnlyWhenTheUserSaysSo) {
   BeginUntitled();
-  dialogs.answers = {Answer::kNo, Answer::kYes};
-  EXPECT_FALSE(CheckSaveChanges(session));
-  EXPECT_EQ(project.DataChanged, 1);
-  EXPECT_TRUE(CheckSaveChanges(session));
-  EXPECT_EQ(dialogs.messages[1].title, "This data will not be saved");
-  EXPECT_EQ(project.DataChanged, 0);
+  for (const Answer answer : {Answer::kNo, Answer::kYes}) {
+    dialogs.answers = {answer};
+    EXPECT_EQ(CheckSaveChanges(session), answer == Answer::kYes);
+    EXPECT_EQ(dialogs.messages.back().title, "This data will not be saved");
+    EXPECT_EQ(project.DataChanged, answer == Answer::kYes ? 0 : 1);
+  }
 }
 
 TEST_F(SaveCommands, ADeclinedOverwriteIsNotMadeGoodByTheNextSave) {
@@ -116,7 +117,7 @@ TEST_F(SaveCommands, SaveAsLeavesAnExistingFileWhenTheUserSaysNo) {
   dialogs.answers = {Answer::kNo};
   Fsave(session);
   EXPECT_EQ(files.Bytes("/jobs/copy.zeb"), "precious");
-  EXPECT_EQ(dialogs.messages[0].title, "Existing File Name");
+  EXPECT_EQ(dialogs.Titles(), Texts{"Existing File Name"});
   EXPECT_EQ(project.ProjectPath, "/JOBS/JOB.ZEB");
 }
 

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "support/slots.h"
 #include "support/test_session.h"
 
 namespace zeb::test {
@@ -15,6 +16,12 @@ struct Supplies : testing::Test, TestSession {
     project.SupplyNames[1] = "None";
     project.SupplyNames[2] = "Town main at the northern gate";
     project.SupplyTable[2] = {0, 5.5F, 1000, 4.25F};
+  }
+
+  void Add(const std::string& reference) {
+    editor.cmdPumpAdd_Click();
+    editor.Reference = reference;
+    editor.cmbPumpSave_Click();
   }
 
   SupplyEditor editor{session};
@@ -44,8 +51,8 @@ TEST_F(Supplies, ANewOneIsStoredAndPicked) {
   editor.TankHeight = "2.5";
 
   editor.cmbPumpSave_Click();  // without a reference
-  EXPECT_EQ(dialogs.messages.back().title, "You have not given a water supply / pump reference!");
-  EXPECT_EQ(dialogs.messages.back().text, "Please ensure you give some text as a reference");
+  EXPECT_EQ(dialogs.Shown(), (Boxes{{"You have not given a water supply / pump reference!",
+                                     "Please ensure you give some text as a reference"}}));
   EXPECT_EQ(project.SupplyCount, 2);
 
   editor.Reference = "Diesel pump";
@@ -74,9 +81,7 @@ TEST_F(Supplies, NoRowIsAddedOrOverwrittenWhenTheTableIsFull) {
   project.SupplyCount = 49;
   project.SupplyNames[49] = "The last";
   editor.Load("The last");
-  editor.cmdPumpAdd_Click();
-  editor.Reference = "One more";
-  editor.cmbPumpSave_Click();
+  Add("One more");
   EXPECT_EQ(project.SupplyCount, 49);
   EXPECT_EQ(project.SupplyNames[49], "The last");
   EXPECT_EQ(editor.SupplyName, "The last");
@@ -87,11 +92,8 @@ TEST_F(Supplies, TheFirstOneMadeIsNone) {
   project.SupplyCount = 0;
   project.SupplyNames[1] = "";
   editor.Load("");
-  editor.cmdPumpAdd_Click();
-  editor.Reference = "Town main";
-  editor.cmbPumpSave_Click();
-  EXPECT_EQ(project.SupplyNames[1], "None");
-  EXPECT_EQ(project.SupplyNames[2], "Town main");
+  Add("Town main");
+  EXPECT_EQ(Slots(project.SupplyNames, 1, 2), (Texts{"None", "Town main"}));
 }
 
 TEST_F(Supplies, FlowsAscend) {
@@ -105,13 +107,11 @@ TEST_F(Supplies, FlowsAscend) {
   EXPECT_TRUE(dialogs.messages.empty());
   editor.Flows[2] = "999.5";
   editor.Flow_LostFocus(2);
-  ASSERT_EQ(dialogs.messages.size(), 1U);
-  EXPECT_EQ(dialogs.messages[0].title, "Flows must be in ascending order");
-  EXPECT_EQ(dialogs.messages[0].text,
-            "The flow just entered is less than the previous value of 1000 L/min");
   EXPECT_EQ(editor.Flows[2], "0");
   editor.Flow_LostFocus(2);  // nothing was entered since
-  EXPECT_EQ(dialogs.messages.size(), 1U);
+  EXPECT_EQ(dialogs.Shown(),
+            (Boxes{{"Flows must be in ascending order",
+                    "The flow just entered is less than the previous value of 1000 L/min"}}));
 }
 
 }  // namespace

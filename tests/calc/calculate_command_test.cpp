@@ -15,8 +15,8 @@ namespace {
 
 // Three heads of 9 m2 at nodes 11 to 13, which stand at (100, 100), (200, 100) and (300, 100) in
 // the picture. The options dialog of a calculation notes what it finds and gives up.
-struct ThreeHeads : TestSession {
-  ThreeHeads() {
+struct CalculateCommand : testing::Test, TestSession {
+  CalculateCommand() {
     MadeNetwork network(project);
     for (int head = 1; head <= 3; ++head) {
       const int pipe = network.Pipe(head == 1 ? 1 : 9 + head, 10 + head, 3, 3.0F);
@@ -46,74 +46,69 @@ struct ThreeHeads : TestSession {
   float seen_demand = -1.0F;
 };
 
-TEST(OperatingHeadsTest, PicksHeadsOneByOne) {
-  ThreeHeads t;
-  t.project.ModelState = 3;
-  t.project.HeadOn[2] = 1;
-  t.project.MrHead2 = 2;
-  Cind(t.session);
-  EXPECT_EQ(t.Picked(), "");
-  EXPECT_EQ(t.project.SelectedHeadsMode, 1);
-  EXPECT_EQ(t.project.ModelState, 1);
-  EXPECT_EQ(t.project.MrHead2, 0);
-  EXPECT_EQ(t.project.CommandMode, 17);
-  EXPECT_FALSE(t.shell.features.at(Feature::kDisplayMenu));
-  EXPECT_FALSE(t.shell.features.at(Feature::kPrintMenu));
-  EXPECT_EQ(t.prompt, "0 heads = 0.0 m2: Select heads - press F12 to calculate");
-  for (const int head : {1, 3, 1}) ToggleHead(t.session, head);
-  EXPECT_EQ(t.Picked(), "3 ");
-  EXPECT_EQ(t.prompt, "1 heads = 9.0 m2: Select heads - press F12 to calculate");
+TEST_F(CalculateCommand, PicksHeadsOneByOne) {
+  project.ModelState = 3;
+  project.HeadOn[2] = 1;
+  project.MrHead2 = 2;
+  Cind(session);
+  EXPECT_EQ(Picked(), "");
+  EXPECT_EQ(project.SelectedHeadsMode, 1);
+  EXPECT_EQ(project.ModelState, 1);
+  EXPECT_EQ(project.MrHead2, 0);
+  EXPECT_EQ(project.CommandMode, 17);
+  EXPECT_FALSE(shell.features.at(Feature::kDisplayMenu));
+  EXPECT_FALSE(shell.features.at(Feature::kPrintMenu));
+  EXPECT_EQ(prompt, "0 heads = 0.0 m2: Select heads - press F12 to calculate");
+  for (const int head : {1, 3, 1}) ToggleHead(session, head);
+  EXPECT_EQ(Picked(), "3 ");
+  EXPECT_EQ(prompt, "1 heads = 9.0 m2: Select heads - press F12 to calculate");
 }
 
-TEST(OperatingHeadsTest, TogglesTheHeadsInABox) {
-  ThreeHeads t;
-  Cboxes(t.session);
-  EXPECT_EQ(t.project.CommandMode, 18);
-  EXPECT_EQ(t.prompt, "Select head group - press F12 to calculate");
-  ToggleHeadsInBox(t.session, 250.0F, 150.0F, 100.0F, 100.0F);  // on two edges, from the right
-  EXPECT_EQ(t.Picked(), "1 2 ");
-  ToggleHeadsInBox(t.session, 150.0F, 50.0F, 350.0F, 150.0F);
-  EXPECT_EQ(t.Picked(), "1 3 ");
-  EXPECT_EQ(t.prompt, "2 heads = 18.0 m2 - draw another zoom box or press F12 to calculate");
+TEST_F(CalculateCommand, TogglesTheHeadsInABox) {
+  Cboxes(session);
+  EXPECT_EQ(project.CommandMode, 18);
+  EXPECT_EQ(prompt, "Select head group - press F12 to calculate");
+  ToggleHeadsInBox(session, 250.0F, 150.0F, 100.0F, 100.0F);  // on two edges, from the right
+  EXPECT_EQ(Picked(), "1 2 ");
+  ToggleHeadsInBox(session, 150.0F, 50.0F, 350.0F, 150.0F);
+  EXPECT_EQ(Picked(), "1 3 ");
+  EXPECT_EQ(prompt, "2 heads = 18.0 m2 - draw another zoom box or press F12 to calculate");
 }
 
-TEST(OperatingHeadsTest, GoesOnWithAPick) {
-  ThreeHeads t;
-  Ccurr(t.session);
-  EXPECT_EQ(t.dialogs.Titles(), Texts{"No heads selected yet"});
-  EXPECT_EQ(t.project.SelectedHeadsMode, 0);
-  EXPECT_EQ(PickHeadsByNodes(t.session, {13, 99, 11}), std::vector{99});
-  Ccurr(t.session);
-  EXPECT_EQ(t.Picked(), "1 3 ");
-  EXPECT_EQ(t.prompt, "2 heads = 18.0 m2 - click to turn on/off head and thne F12 to calculate");
+TEST_F(CalculateCommand, GoesOnWithAPick) {
+  Ccurr(session);
+  EXPECT_EQ(dialogs.Titles(), Texts{"No heads selected yet"});
+  EXPECT_EQ(project.SelectedHeadsMode, 0);
+  EXPECT_EQ(PickHeadsByNodes(session, {13, 99, 11}), std::vector{99});
+  Ccurr(session);
+  EXPECT_EQ(Picked(), "1 3 ");
+  EXPECT_EQ(prompt, "2 heads = 18.0 m2 - click to turn on/off head and thne F12 to calculate");
 }
 
-TEST(CalculateCommandTest, UsesAllHeadsUnlessSomeArePicked) {
-  ThreeHeads t;
-  t.project.DemandFlow = 7.0F;
-  EXPECT_FALSE(Ccall(t.session));
-  EXPECT_EQ(t.seen, "1 2 3 ");
-  EXPECT_EQ(t.seen_demand, 0.0F);
-  PickHeadsByNodes(t.session, {12});
-  Ccall(t.session);
-  EXPECT_EQ(t.seen, "2 ");
-  Cind(t.session);  // nothing picked is as good as all
-  Ccall(t.session);
-  EXPECT_EQ(t.seen, "1 2 3 ");
-  EXPECT_EQ(t.project.SelectedHeadsMode, 0);
+TEST_F(CalculateCommand, UsesAllHeadsUnlessSomeArePicked) {
+  project.DemandFlow = 7.0F;
+  EXPECT_FALSE(Ccall(session));
+  EXPECT_EQ(seen, "1 2 3 ");
+  EXPECT_EQ(seen_demand, 0.0F);
+  PickHeadsByNodes(session, {12});
+  Ccall(session);
+  EXPECT_EQ(seen, "2 ");
+  Cind(session);  // nothing picked is as good as all
+  Ccall(session);
+  EXPECT_EQ(seen, "1 2 3 ");
+  EXPECT_EQ(project.SelectedHeadsMode, 0);
 }
 
-TEST(CalculateCommandTest, AsksForTheDemandBeforeTheSupply) {
-  ThreeHeads t;
-  MadeNetwork(t.project).Supply({0, 5, 5000, 4});
-  Ccall(t.session);
-  EXPECT_EQ(t.seen_supply, "Pump");
-  EXPECT_GE(t.seen_demand, 135.0F);  // 5 mm/min on 27 m2, and a little more near the source
-  EXPECT_LT(t.seen_demand, 160.0F);
-  EXPECT_GT(t.project.DemandPressure, 0.0F);
+TEST_F(CalculateCommand, AsksForTheDemandBeforeTheSupply) {
+  MadeNetwork(project).Supply({0, 5, 5000, 4});
+  Ccall(session);
+  EXPECT_EQ(seen_supply, "Pump");
+  EXPECT_GE(seen_demand, 135.0F);  // 5 mm/min on 27 m2, and a little more near the source
+  EXPECT_LT(seen_demand, 160.0F);
+  EXPECT_GT(project.DemandPressure, 0.0F);
 }
 
-struct PartSaveTest : testing::Test, ThreeHeads {
+struct PartSaveTest : CalculateCommand {
   PartSaveTest() {
     PickHeadsByNodes(session, {11, 13});
     project.PartSave = 1;

@@ -44,11 +44,12 @@ struct WithinLimits : TestSession {
   std::string text;
 };
 
-TEST(LimitListsTest, ListsPipesAndMarksThem) {
-  WithinLimits t;
-  t.project.PipeVelocity[2] = 6.0F;
-  ShowLimitLists(t.session);
-  EXPECT_EQ(t.text,
+struct LimitLists : testing::Test, WithinLimits {};
+
+TEST_F(LimitLists, ListsPipesAndMarksThem) {
+  project.PipeVelocity[2] = 6.0F;
+  ShowLimitLists(session);
+  EXPECT_EQ(text,
             "List of pipes beyond specified limits\n"
             "Source duty = 60.0 L/min at 2.500 bars\n"
             "1 pipes with velocities over 6 m/s\n"
@@ -56,15 +57,14 @@ TEST(LimitListsTest, ListsPipesAndMarksThem) {
             "Start   End   mm    L/min    m/s      m    drop bars\n"
             "    2    30   25     60.0    6.00    4.25    0.500\r\n"
             "These pipes may be undersized - click on 'OK' to proceed");
-  EXPECT_EQ(t.project.PipeError[1], 0);
-  EXPECT_EQ(t.project.PipeError[2], 1);
+  EXPECT_EQ(project.PipeError[1], 0);
+  EXPECT_EQ(project.PipeError[2], 1);
 }
 
-TEST(LimitListsTest, ListsHeadsAndMarksThem) {
-  WithinLimits t;
-  t.project.HeadMinPress[1] = 1.5F;
-  ShowLimitLists(t.session);
-  EXPECT_EQ(t.text,
+TEST_F(LimitLists, ListsHeadsAndMarksThem) {
+  project.HeadMinPress[1] = 1.5F;
+  ShowLimitLists(session);
+  EXPECT_EQ(text,
             "List of under performing heads\n"
             "Source duty = 60.0 L/min at 2.500 bars\n"
             "1 heads are under their minimum specified pressures\n"
@@ -72,18 +72,16 @@ TEST(LimitListsTest, ListsHeadsAndMarksThem) {
             "node   L/min   sq.m  Reqd    Actual   Reqd   Actual\n"
             "  30    60.0 12.000   5.0      5.00   1.50    1.000\r\n"
             "Possible incorrect 'k' factors or areas - click on 'OK' to proceed");
-  EXPECT_EQ(t.project.HeadOrifice[1], -15.0F);
-  t.project.PumpCurveIndex = 2;
-  ShowLimitLists(t.session);
-  EXPECT_TRUE(t.text.ends_with("\r\nPossible inadequate pump curve specified"));
+  EXPECT_EQ(project.HeadOrifice[1], -15.0F);
+  project.PumpCurveIndex = 2;
+  ShowLimitLists(session);
+  EXPECT_TRUE(text.ends_with("\r\nPossible inadequate pump curve specified"));
 }
 
 TEST(LimitListsTest, CountsALimitItselfAsBroken) {
-  using Row = Table<float, kLastPipe> PipeTables::*;
-  using HeadRow = Table<float, kLastHead> HeadTables::*;
   const struct {
-    Row pipe_row;
-    HeadRow head_row;
+    Table<float, kLastPipe> PipeTables::*pipe_row;
+    Table<float, kLastHead> HeadTables::*head_row;
     float value;
     Texts headers;
   } cases[] = {
@@ -111,15 +109,14 @@ TEST(LimitListsTest, CountsALimitItselfAsBroken) {
   }
 }
 
-TEST(LimitListsTest, LeavesOutAddedBuildingsAndHeadsThatAreOff) {
-  WithinLimits t;
-  t.project.HeadMinPress[1] = 2.0F;
-  t.project.HeadCode[1] = -1.0F;
-  ShowLimitLists(t.session);
-  t.project.HeadCode[1] = 1.0F;
-  t.project.SelectedHeadsMode = 1;
-  ShowLimitLists(t.session);
-  EXPECT_TRUE(t.headers.empty());
+TEST_F(LimitLists, LeavesOutAddedBuildingsAndHeadsThatAreOff) {
+  project.HeadMinPress[1] = 2.0F;
+  project.HeadCode[1] = -1.0F;
+  ShowLimitLists(session);
+  project.HeadCode[1] = 1.0F;
+  project.SelectedHeadsMode = 1;
+  ShowLimitLists(session);
+  EXPECT_TRUE(headers.empty());
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <tuple>
 
 #include "made_network.h"
 #include "support/test_session.h"
@@ -11,8 +12,8 @@ namespace zeb::test {
 namespace {
 
 // Three sprinklers and an added building at the ends of pipes 2 to 5, and a pipe that closes back.
-struct Results : TestSession {
-  Results() {
+struct ResultTables : testing::Test, TestSession {
+  ResultTables() {
     MadeNetwork network(project);
     const struct {
       int start, end, size;
@@ -48,80 +49,71 @@ struct Results : TestSession {
   }
 };
 
-TEST(ResultTablesTest, RangesOverSprinklersAndSumsOverAllHeads) {
-  Results t;
-  t.project.PipeEndPressure[5] = 1.004F;
-  ComputeResultTables(t.session);
-  const Project& p = t.project;
-  EXPECT_FLOAT_EQ(p.SumHeadFlow, 100.0F + 100.0F + 80.0F + 120.0F + 300.0F);
-  EXPECT_FLOAT_EQ(p.FlowBalance, 0.0F);
-  EXPECT_NEAR(p.HeadPdError, 0.004F, 1E-6F);  // of the added building
-  EXPECT_FLOAT_EQ(p.MinHeadFlow, 80.0F);
-  EXPECT_FLOAT_EQ(p.MaxHeadFlow, 120.0F);
-  EXPECT_FLOAT_EQ(p.HeadAreaMin, 0.0F);
-  EXPECT_FLOAT_EQ(p.HeadAreaMax, 10.0F);
-  EXPECT_FLOAT_EQ(p.MinHeadDensity, 8.0F);
-  EXPECT_FLOAT_EQ(p.MaxHeadDensity, 10.0F);
-  EXPECT_EQ(p.HeadsOver2Bar, 2);
-  EXPECT_EQ(p.HeadsUnderPressure + p.HeadsUnderDensity, 0);
-  EXPECT_EQ(p.HeadOrifice[1], 15.0F);  // an earlier calculation had marked it
+TEST_F(ResultTables, RangesOverSprinklersAndSumsOverAllHeads) {
+  project.PipeEndPressure[5] = 1.004F;
+  ComputeResultTables(session);
+  EXPECT_FLOAT_EQ(project.SumHeadFlow, 100.0F + 100.0F + 80.0F + 120.0F + 300.0F);
+  EXPECT_FLOAT_EQ(project.FlowBalance, 0.0F);
+  EXPECT_NEAR(project.HeadPdError, 0.004F, 1E-6F);  // of the added building
+  EXPECT_FLOAT_EQ(project.MinHeadFlow, 80.0F);
+  EXPECT_FLOAT_EQ(project.MaxHeadFlow, 120.0F);
+  EXPECT_FLOAT_EQ(project.HeadAreaMin, 0.0F);
+  EXPECT_FLOAT_EQ(project.HeadAreaMax, 10.0F);
+  EXPECT_FLOAT_EQ(project.MinHeadDensity, 8.0F);
+  EXPECT_FLOAT_EQ(project.MaxHeadDensity, 10.0F);
+  EXPECT_EQ(project.HeadsOver2Bar, 2);
+  EXPECT_EQ(project.HeadsUnderPressure + project.HeadsUnderDensity, 0);
+  EXPECT_EQ(project.HeadOrifice[1], 15.0F);  // an earlier calculation had marked it
 
-  t.project.SelectedHeadsMode = 1;
-  t.project.HeadOn[1] = 1;
-  ComputeResultTables(t.session);
-  EXPECT_FLOAT_EQ(p.MaxHeadFlow, 100.0F);
-  EXPECT_NEAR(p.FlowBalance, 100.0F - 20000.0F / 700.0F, 1E-4F);
+  project.SelectedHeadsMode = 1;
+  project.HeadOn[1] = 1;
+  ComputeResultTables(session);
+  EXPECT_FLOAT_EQ(project.MaxHeadFlow, 100.0F);
+  EXPECT_NEAR(project.FlowBalance, 100.0F - 20000.0F / 700.0F, 1E-4F);
 
-  t.project.HeadCount = 0;
-  ComputeResultTables(t.session);
-  EXPECT_EQ(p.MinHeadFlow, 0.0F);
-  EXPECT_EQ(p.FlowBalance, 0.0F);
+  project.HeadCount = 0;
+  ComputeResultTables(session);
+  EXPECT_EQ(project.MinHeadFlow, 0.0F);
+  EXPECT_EQ(project.FlowBalance, 0.0F);
 }
 
-TEST(ResultTablesTest, TellsHeadsBelowTheirDutyWithATolerance) {
-  const struct {
-    float min_press, density;
-    int under_pressure, under_density;
-  } cases[] = {{1.2009F, 8.0009F, 0, 0}, {1.2011F, 8.0F, 1, 0}, {1.2F, 8.0011F, 0, 1}};
-  for (const auto& c : cases) {
-    Results t;
-    t.project.HeadMinPress[2] = c.min_press;
-    t.project.HeadDensity[2] = c.density;
-    ComputeResultTables(t.session);
-    EXPECT_EQ(t.project.HeadsUnderPressure, c.under_pressure) << c.min_press;
-    EXPECT_EQ(t.project.HeadsUnderDensity, c.under_density) << c.density;
+TEST_F(ResultTables, TellsHeadsBelowTheirDutyWithATolerance) {
+  const std::tuple<float, float, int, int> cases[] = {
+      {1.2009F, 8.0009F, 0, 0}, {1.2011F, 8.0F, 1, 0}, {1.2F, 8.0011F, 0, 1}};
+  for (const auto& [min_press, density, under_pressure, under_density] : cases) {
+    project.HeadMinPress[2] = min_press;
+    project.HeadDensity[2] = density;
+    ComputeResultTables(session);
+    EXPECT_EQ(project.HeadsUnderPressure, under_pressure) << min_press;
+    EXPECT_EQ(project.HeadsUnderDensity, under_density) << density;
   }
 }
 
-TEST(ResultTablesTest, RangesOverPipesBySize) {
-  Results t;
-  ComputeResultTables(t.session);
-  const Project& p = t.project;
-  EXPECT_FLOAT_EQ(p.MinPipeFlow, 80.0F);
-  EXPECT_FLOAT_EQ(p.MaxPipeFlow, 700.0F);
-  EXPECT_FLOAT_EQ(p.MinPipeDrop, 0.2F);
-  EXPECT_FLOAT_EQ(p.MaxPipeDrop, 1.1F);
-  EXPECT_FLOAT_EQ(p.MinGradient, 200.0F / 10.001F);
-  EXPECT_FLOAT_EQ(p.MaxGradient, 1100.0F / 3.001F);
-  EXPECT_EQ(p.MinNominal, 25);
-  EXPECT_EQ(p.MaxNominal, 80);
+TEST_F(ResultTables, RangesOverPipesBySize) {
+  ComputeResultTables(session);
+  EXPECT_FLOAT_EQ(project.MinPipeFlow, 80.0F);
+  EXPECT_FLOAT_EQ(project.MaxPipeFlow, 700.0F);
+  EXPECT_FLOAT_EQ(project.MinPipeDrop, 0.2F);
+  EXPECT_FLOAT_EQ(project.MaxPipeDrop, 1.1F);
+  EXPECT_FLOAT_EQ(project.MinGradient, 200.0F / 10.001F);
+  EXPECT_FLOAT_EQ(project.MaxGradient, 1100.0F / 3.001F);
+  EXPECT_EQ(project.MinNominal, 25);
+  EXPECT_EQ(project.MaxNominal, 80);
   const double volume = 12.0 * 80.9 * 80.9 + 9.0 * 27.3 * 27.3 + 6.0 * 41.9 * 41.9;
-  EXPECT_NEAR(p.PipeVolume, volume * 3.14159 / 4000000.0, 1E-7);
+  EXPECT_NEAR(project.PipeVolume, volume * 3.14159 / 4000000.0, 1E-7);
 }
 
-TEST(ResultTablesTest, SortsPipesByVelocity) {
-  Results t;
-  ComputeResultTables(t.session);
-  const Project& p = t.project;
-  EXPECT_EQ(p.PipesNoFlow, 1);
-  EXPECT_EQ(p.PipesOverSpeed, 1);  // exactly 10 m/s is not over
-  EXPECT_EQ(p.FastestPipe, 3);
-  EXPECT_FLOAT_EQ(p.ValveMaxVelocity, 2.85F);
-  t.project.RuleType = 3;  // and again, from the start
-  ComputeResultTables(t.session);
-  EXPECT_EQ(p.PipesOverSpeed, 2);
+TEST_F(ResultTables, SortsPipesByVelocity) {
+  ComputeResultTables(session);
+  EXPECT_EQ(project.PipesNoFlow, 1);
+  EXPECT_EQ(project.PipesOverSpeed, 1);  // exactly 10 m/s is not over
+  EXPECT_EQ(project.FastestPipe, 3);
+  EXPECT_FLOAT_EQ(project.ValveMaxVelocity, 2.85F);
+  project.RuleType = 3;  // and again, from the start
+  ComputeResultTables(session);
+  EXPECT_EQ(project.PipesOverSpeed, 2);
   const std::map<int, int> bands{{0, 1}, {1, 0}, {2, 2}, {3, 1}, {10, 1}, {119, 1}};
-  for (const auto& [band, count] : bands) EXPECT_EQ(p.VelocityBuckets[band], count) << band;
+  for (const auto& [band, count] : bands) EXPECT_EQ(project.VelocityBuckets[band], count) << band;
 }
 
 }  // namespace

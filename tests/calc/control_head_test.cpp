@@ -33,9 +33,7 @@ TEST(ControlHeadTest, PinsTheHeadThatGoverns) {
     float margin;
     int margin_head;
     float density;
-    int density_head;
-    int curve;
-    int control;
+    int density_head, curve, control;
     float flow, change, pressure;  // of head 2
   };
   constexpr float kFlow = TwoHeads::kFlow;

@@ -3,9 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
 #include <initializer_list>
-#include <iterator>
 #include <string>
 #include <vector>
 
@@ -13,16 +11,11 @@
 #include "calc/flow_paths.h"
 #include "check/check_project.h"
 #include "project/open_project.h"
+#include "support/real_file.h"
 #include "support/test_session.h"
 
 namespace zeb::test {
 namespace {
-
-std::string DataFile(const std::string& name) {
-  std::ifstream file(std::string(ZEB_DATA_DIR) + '/' + name, std::ios::binary);
-  EXPECT_TRUE(file) << name;
-  return {std::istreambuf_iterator<char>(file), {}};
-}
 
 // `count` node numbers from each of the first ones.
 std::vector<int> NodeRuns(std::initializer_list<int> firsts, int count) {
@@ -36,9 +29,9 @@ std::vector<int> NodeRuns(std::initializer_list<int> firsts, int count) {
 struct Example : TestSession {
   explicit Example(const std::string& name) {
     session.SuppressErrors = true;
-    session.authorities.Parse(DataFile("authorities/DesignAuth.csv"));
-    files.Put("/prog/pipedata/STD_PIPE.PDT", DataFile("pipedata/STD_PIPE.PDT"));
-    files.Put("/jobs/EXAMPLE.zeb", DataFile("examples/" + name + ".zeb"));
+    session.authorities.Parse(RealFile(ZEB_DATA_DIR "/authorities/DesignAuth.csv"));
+    files.Put("/prog/pipedata/STD_PIPE.PDT", RealFile(ZEB_DATA_DIR "/pipedata/STD_PIPE.PDT"));
+    files.Put("/jobs/EXAMPLE.zeb", RealFile(ZEB_DATA_DIR "/examples/" + name + ".zeb"));
     commands.on_check = [this](CheckMode mode) { CheckProject(session, mode); };
     OpenProject(session, "/jobs/EXAMPLE.zeb");
   }

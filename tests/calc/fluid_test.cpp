@@ -22,8 +22,7 @@ TEST(FluidTest, TakesTheSettingsFromTheFluidText) {
       {"SG 1.1", kHazenWilliams, 998.0F, 0.95F, 1.0F, 0, 0},      // no sign of assignment
       {"SGX SG=1.1", kHazenWilliams, 998.0F, 0.95F, 1.0F, 0, 0},  // none in the first word
       {"SG=1.1kg", kHazenWilliams, 998.0F, 0.95F, 1.0F, 0, 0},    // no number
-      {"SG= 1.1", kHazenWilliams, 998.0F, 0.95F, 0.0F, 0, 0},     // nothing is 0
-  };
+      {"SG= 1.1", kHazenWilliams, 998.0F, 0.95F, 0.0F, 0, 0}};    // nothing is 0
   for (const Case& c : cases) {
     Project project;
     ItemText(project, Item::kFluid) = c.fluid;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <tuple>
 
 #include "calc/friction_table.h"
 
@@ -29,21 +30,15 @@ TEST(FrictionFactorTest, AgreesWithColebrook) {
 }
 
 TEST(FrictionTableTest, InterpolatesBetweenFourCells) {
-  struct Case {
-    const char* what;
-    double roughness, reynolds, factor;
-  };
-  const Case cases[] = {
+  const std::tuple<const char*, double, double, double> cases[] = {
       {"a cell itself", 4e-5, 4e5, 0.0142},
       {"the middle of four cells", 3e-5, 3e5, (0.01565 + 0.0141) / 2.0},
       {"the lowest Reynolds number", 4e-5, 4100.0, 0.0400 - 0.0090 * 100.0 / 6000.0},
       {"rougher than the last column", 4e-4, 1e6, 0.0136 + 3.0 * 0.0011},
       {"faster than the last row", 1e-5, 1.9e8, 0.0080 - 0.0010},
-      {"smoother than the first column", 0.5e-8, 2e5, (200000.0 + 0.0155) / 2.0},
-  };
-  for (const Case& c : cases) {
-    const double factor = MoodyTable().Interpolate(c.roughness, c.reynolds);
-    EXPECT_NEAR(factor / c.factor, 1.0, 1e-6) << c.what;
+      {"smoother than the first column", 0.5e-8, 2e5, (200000.0 + 0.0155) / 2.0}};
+  for (const auto& [what, roughness, reynolds, factor] : cases) {
+    EXPECT_NEAR(MoodyTable().Interpolate(roughness, reynolds) / factor, 1.0, 1e-6) << what;
   }
 }
 

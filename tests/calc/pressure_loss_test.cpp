@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <functional>
 #include <numbers>
+#include <tuple>
 #include <utility>
 
 #include "calc/fluid.h"
@@ -27,13 +27,7 @@ struct OnePipe {
 };
 
 TEST(EquivalentLengthTest, AddsUpWhatThePipeHolds) {
-  struct Case {
-    const char* what;
-    std::function<void(Project&)> set;
-    int size;
-    float length;
-  };
-  const Case cases[] = {
+  const std::tuple<const char*, void (*)(Project&), int, float> cases[] = {
       {"elbows", [](Project& p) { p.PipeElbows[1] = 2; }, kSize50, 15.0F},
       {"welded from the size itself up", [](Project& p) { p.PipeElbows[1] = 2, p.WeldSize = 50; },
        kSize50, 14.0F},
@@ -49,13 +43,12 @@ TEST(EquivalentLengthTest, AddsUpWhatThePipeHolds) {
        kSize350, 13.0F},
       {"dry", [](Project& p) { p.DrySystem = 1; }, kSize50, 10.0F + 3.0F * 0.714F},
       {"dry from a later pipe", [](Project& p) { p.DrySystem = 1, p.DryFromPipe = 2; }, kSize50,
-       13.0F},
-  };
-  for (const Case& c : cases) {
+       13.0F}};
+  for (const auto& [what, change, size, length] : cases) {
     OnePipe one;
-    c.set(one.project);
-    EquivalentLength(one.project, 1, c.size);
-    EXPECT_NEAR(one.project.PipeEqLength[1], c.length, 1e-5F) << c.what;
+    change(one.project);
+    EquivalentLength(one.project, 1, size);
+    EXPECT_NEAR(one.project.PipeEqLength[1], length, 1e-5F) << what;
   }
 }
 
@@ -81,10 +74,8 @@ double DarcyLossOf(double f, double flow, double length) {
 
 TEST(PipeDropTest, FollowsTheFlow) {
   struct Case {
-    const char* what;
-    const char* fluid;
-    float roughness;
-    float flow, orifice, added_drop;
+    const char *what, *fluid;
+    float roughness, flow, orifice, added_drop;
     double drop;
   };
   const double loss = LossOf(300.0, 53.1, 13.0);
@@ -102,8 +93,7 @@ TEST(PipeDropTest, FollowsTheFlow) {
       {"formula at its least Re", "DWF", 0.046F, 20, 0, 0, DarcyLossOf(0.02446, 20, 13)},
       {"table", "NFPA 750", 0.00531F, 300, 0, 0, DarcyLossOf(0.01820, 300, 13)},  // e = 0.0001
       {"table at its least Re", "NFPA 750", 0.00531F, 5, 0, 0, DarcyLossOf(0.03985, 5, 13)},
-      {"table, at rest", "NFPA 750", 0.00531F, 0, 0, 0.25F, 0.0},
-  };
+      {"table, at rest", "NFPA 750", 0.00531F, 0, 0, 0.25F, 0.0}};
   for (const Case& c : cases) {
     OnePipe one;
     ItemText(one.project, Item::kFluid) = c.fluid;

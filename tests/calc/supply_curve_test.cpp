@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 #include <utility>
 
 #include "made_network.h"
@@ -40,21 +41,15 @@ TEST(SupplyCurveTest, ReadsThePressureOffTheCurve) {
   network.Supply({0.0F, 6.0F, 300.0F, 5.75F, 1000.0F, 5.0F, 1200.0F, 0.0F}, 5.0F);
   project.SupplyTable[2][15] = 0.7F;  // of the last point, which stands for all flows beyond
   SelectSupply(project);
-  struct Case {
-    const char* what;
-    float flow, pressure;
-    int off;
-  };
-  const Case cases[] = {
+  const std::tuple<const char*, float, float, int> cases[] = {
       {"no flow", 0.0F, 6.0F, 0},          {"between points", 650.0F, 5.375F, 0},
       {"on a point", 1000.0F, 5.0F, 0},    {"near the end", 1160.0F, 1.0F, 0},
       {"under 0.1 bar", 1197.0F, 0.7F, 1}, {"behind the end", 1200.1F, 0.7F, 1},
-      {"backward", -200.0F, 6.166667F, 0},
-  };
-  for (const Case& c : cases) {
+      {"backward", -200.0F, 6.166667F, 0}};
+  for (const auto& [what, flow, pressure, off] : cases) {
     project.OffCurve = 0;
-    EXPECT_NEAR(SupplyPressureAt(project, c.flow), c.pressure + 0.5F, 1e-4F) << c.what;
-    EXPECT_EQ(project.OffCurve, c.off) << c.what;
+    EXPECT_NEAR(SupplyPressureAt(project, flow), pressure + 0.5F, 1e-4F) << what;
+    EXPECT_EQ(project.OffCurve, off) << what;
   }
 }
 

@@ -1,4 +1,5 @@
 #include "check_fixture.h"
+#include "support/slots.h"
 
 namespace zeb::test {
 namespace {
@@ -6,11 +7,8 @@ namespace {
 struct Loops : CheckFixture {
   // The signed pipes of one loop.
   [[nodiscard]] std::vector<int> Loop(int loop) const {
-    std::vector<int> pipes;
-    for (int i = project.LoopFirst[loop]; i <= project.LoopLast[loop]; ++i) {
-      pipes.push_back(project.LoopPipes[i]);
-    }
-    return pipes;
+    const auto pipes = Slots(project.LoopPipes, project.LoopFirst[loop], project.LoopLast[loop]);
+    return {pipes.begin(), pipes.end()};
   }
 };
 
@@ -42,17 +40,13 @@ TEST_F(Loops, APipeBackToItsOwnFeedIsALoopOfOne) {
   EXPECT_EQ(Loop(1), std::vector{-2});
 }
 
-void Add(std::string& lines, int start, int end, const char* rest) {
-  lines += " / " + std::to_string(start) + ' ' + std::to_string(end) + rest;
-}
-
 // Two ways from each of a chain's nodes to the next, so many loops of three pipes.
 std::string Chain(int loops) {
   std::string lines = "1 2 50 2 E";
   for (int i = 1; i <= loops; ++i) {
-    Add(lines, 1 + i, 2 + i, " 50 2 E");
-    Add(lines, 1 + i, 3000 + i, " 50 1 N");
-    Add(lines, 3000 + i, 2 + i, " 50 2.236 *116.565");
+    AddPipe(lines, 1 + i, 2 + i, " 50 2 E");
+    AddPipe(lines, 1 + i, 3000 + i, " 50 1 N");
+    AddPipe(lines, 3000 + i, 2 + i, " 50 2.236 *116.565");
   }
   return lines;
 }
@@ -78,10 +72,10 @@ TEST_F(Loops, TheLastRowTakesEachFurtherLoopAndTheModelIsTooLarge) {
 std::string LongLoops(int loops) {
   constexpr int kChain = 2855;
   std::string lines = "1 2 50 1 E";
-  for (int i = 1; i <= kChain; ++i) Add(lines, 1 + i, 2 + i, " 50 1 E");
+  for (int i = 1; i <= kChain; ++i) AddPipe(lines, 1 + i, 2 + i, " 50 1 E");
   for (int i = 1; i <= loops; ++i) {
-    Add(lines, 2, 5000 + i, " 50 1 E");
-    Add(lines, 2 + kChain, 5000 + i, " 50 1 E");
+    AddPipe(lines, 2, 5000 + i, " 50 1 E");
+    AddPipe(lines, 2 + kChain, 5000 + i, " 50 1 E");
   }
   return lines;
 }

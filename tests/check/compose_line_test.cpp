@@ -1,18 +1,14 @@
 #include "check/compose_line.h"
 
 #include "check_fixture.h"
+#include "support/project_text.h"
 
 namespace zeb::test {
 namespace {
 
-struct LineCase {
-  const char* given;
-  const char* composed;
-};
-
 TEST_F(CheckFixture, LinesComposeAndReadBack) {
   SetItem(Item::kInstallation, "1 -AC");
-  const LineCase cases[] = {
+  const std::pair<const char*, const char*> cases[] = {
       {"1 2 50 3 NORTH", "   1    2  50   3.000 N           1  0"},
       {"9900 9901 0 999.9 *64.26@-12.5 2 15", "9900 9901   0 999.900 *64.3@-12.  2 15"},
       {"1 2 50 .001 U@5 2 -1 1 12.5", "   1    2  50   0.010 U           2  0   1 12.500"},
@@ -32,13 +28,13 @@ TEST_F(CheckFixture, LinesComposeAndReadBack) {
       {"1 2 50 3 N 1 0 2 9 AB1000 2.5 100",
        "   1    2  50   3.000 N           1  0 AB1000.000  2.500  100.0"},
       {"1 2 50 3 N AB5 0 -1", "   1    2  50   3.000 N           1  0 AB10.000  0.100    0.0"}};
-  for (const LineCase& line : cases) {
-    SCOPED_TRACE(line.given);
-    Check(line.given, CheckMode::kComposeLines);
+  for (const auto& [given, composed] : cases) {
+    SCOPED_TRACE(given);
+    Check(given, CheckMode::kComposeLines);
     EXPECT_TRUE(project.Faults.empty());
-    EXPECT_EQ(project.PipeLines[19], line.composed);
-    Check(line.composed, CheckMode::kComposeLines);
-    EXPECT_EQ(project.PipeLines[19], line.composed);
+    EXPECT_EQ(project.PipeLines[19], composed);
+    Check(composed, CheckMode::kComposeLines);
+    EXPECT_EQ(project.PipeLines[19], composed);
   }
 }
 
@@ -56,9 +52,7 @@ TEST_F(CheckFixture, OnlyCleanLinesAreComposed) {
                           "   3    4  50   3.000 N           1  0   3 50.000",
                           "4 5 50 3 Q  ???",
                           "END"};
-  for (std::size_t i = 0; i < expected.size(); ++i) {
-    EXPECT_EQ(project.PipeLines[19 + static_cast<int>(i)], expected[i]);
-  }
+  EXPECT_EQ(LinesOf(project, kFirstPipeLine), expected);
   Check(lines, CheckMode::kKeepLines);
   EXPECT_EQ(project.PipeLines[20], "1 2 50 3 N");
   EXPECT_EQ(project.PipeLines[22], "2 3 50 1000 N");

@@ -2,18 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace zeb::test {
 namespace {
 
-struct WordCase {
-  const char* word;
-  bool is_direction;
-  float direction;
-  float slope;
-};
-
 TEST(DirectionCode, ReadsWords) {
-  const WordCase cases[] = {
+  const std::tuple<const char*, bool, float, float> cases[] = {
       {"N", true, 0, 0},           {"NORTH", true, 0, 0},        {"NE", true, 45, 0},
       {"EAST-WIND", true, 90, 0},  {"SE", true, 135, 0},         {"S@12.5", true, 180, 12.5F},
       {"SW", true, 225, 0},        {"W@-2.5", true, 270, -2.5F}, {"NW", true, 315, 0},
@@ -23,34 +18,29 @@ TEST(DirectionCode, ReadsWords) {
       {"*360", true, 360, 0},      {"*400", true, 0, 0},         {"*-10", true, 0, 0},
       {"N@90", true, 0, 90},       {"N@-90.1", true, 0, 0},      {"@5", false, 0, 0},
       {"", false, 0, 0},           {"X@5", false, 0, 0},         {"\tN", false, 0, 0}};
-  for (const WordCase& word_case : cases) {
-    SCOPED_TRACE(word_case.word);
+  for (const auto& [word, is_direction, direction, slope] : cases) {
+    SCOPED_TRACE(word);
     DirectionCode code;
-    EXPECT_EQ(ParseDirection(word_case.word, code), word_case.is_direction);
-    EXPECT_EQ(code.direction, word_case.direction);
-    EXPECT_EQ(code.slope, word_case.slope);
+    EXPECT_EQ(ParseDirection(word, code), is_direction);
+    EXPECT_EQ(code.direction, direction);
+    EXPECT_EQ(code.slope, slope);
   }
 }
 
 TEST(DirectionCode, WritesByWholeDegrees) {
-  struct TextCase {
-    float direction;
-    float slope;
-    const char* text;
-  };
-  const TextCase cases[] = {{0, 0, "N"},
-                            {360, 0, "N"},
-                            {44.6F, 0, "NE"},
-                            {44.5F, 0, "*44.5"},
-                            {45.5F, 0, "*45.5"},
-                            {134.5F, 0, "*134.5"},
-                            {270, -2.5F, "W@-2.50"},
-                            {64, 5, "*64.0@5.00"},
-                            {999, 5, "U"},
-                            {-999, 0, "D"},
-                            {123.44F, -12.345F, "*123.4@-12.35"}};
-  for (const TextCase& text_case : cases) {
-    EXPECT_EQ(DirectionText(text_case.direction, text_case.slope), text_case.text);
+  const std::tuple<float, float, const char*> cases[] = {{0, 0, "N"},
+                                                         {360, 0, "N"},
+                                                         {44.6F, 0, "NE"},
+                                                         {44.5F, 0, "*44.5"},
+                                                         {45.5F, 0, "*45.5"},
+                                                         {134.5F, 0, "*134.5"},
+                                                         {270, -2.5F, "W@-2.50"},
+                                                         {64, 5, "*64.0@5.00"},
+                                                         {999, 5, "U"},
+                                                         {-999, 0, "D"},
+                                                         {123.44F, -12.345F, "*123.4@-12.35"}};
+  for (const auto& [direction, slope, text] : cases) {
+    EXPECT_EQ(DirectionText(direction, slope), text);
   }
 }
 

@@ -5,6 +5,8 @@
 #include <clocale>
 #include <cmath>
 #include <string>
+#include <tuple>
+#include <utility>
 
 #include "support/failure_of.h"
 
@@ -12,10 +14,7 @@ namespace zeb::test {
 namespace {
 
 TEST(ValTest, ReadsTheLongestNumberPrefix) {
-  const struct {
-    const char* text;
-    double value;
-  } cases[] = {
+  const std::pair<const char*, double> cases[] = {
       {"", 0.0},         {"  12.5mm", 12.5},
       {"+3", 3.0},       {"-.5", -0.5},
       {"1 2", 1.0},      {"\t7", 0.0},
@@ -29,7 +28,7 @@ TEST(ValTest, ReadsTheLongestNumberPrefix) {
       {"1e-400", 0.0},   {"0e999999999999", 0.0},
       {"-0", 0.0},       {"inf", 0.0},
   };
-  for (const auto& c : cases) EXPECT_EQ(Val(c.text), c.value) << c.text;
+  for (const auto& [text, value] : cases) EXPECT_EQ(Val(text), value) << text;
   EXPECT_FALSE(std::signbit(Val("-0")));
 }
 
@@ -68,10 +67,7 @@ TEST(ReadNumberFieldTest, TellsEmptyFromWrong) {
 }
 
 TEST(NumberTextTest, HasAtMostSevenSignificantDigits) {
-  const struct {
-    float value;
-    const char* text;
-  } cases[] = {
+  const std::pair<float, const char*> cases[] = {
       {0.0F, " 0"},
       {-0.0F, " 0"},
       {0.5F, " 0.5"},
@@ -88,18 +84,14 @@ TEST(NumberTextTest, HasAtMostSevenSignificantDigits) {
       {1.5E-10F, " 1.5E-10"},
       {123456.75F, " 123456.8"},
   };
-  for (const auto& c : cases) EXPECT_EQ(SignedText(c.value), c.text);
+  for (const auto& [value, text] : cases) EXPECT_EQ(SignedText(value), text);
   EXPECT_EQ(SignedText(12), " 12");
   EXPECT_EQ(SignedText(-3), "-3");
   EXPECT_EQ(PlainText(1.5F), "1.5");
 }
 
 TEST(FormatTest, RoundsHalfAwayFromZeroOnTheExactValue) {
-  const struct {
-    double value;
-    int decimals;
-    const char* text;
-  } cases[] = {
+  const std::tuple<double, int, const char*> cases[] = {
       {0.125, 2, "0.13"},
       {-0.125, 2, "-0.13"},
       {2.5, 0, "3"},
@@ -112,21 +104,15 @@ TEST(FormatTest, RoundsHalfAwayFromZeroOnTheExactValue) {
       {1234567.0, 1, "1234567.0"},
       {1e22, 0, "10000000000000000000000"},
       {5e-324, 1, "0.0"},
-      {0.0, 2, "0.00"},
-  };
-  for (const auto& c : cases) EXPECT_EQ(FormatDecimals(c.value, c.decimals), c.text);
+      {0.0, 2, "0.00"}};
+  for (const auto& [value, places, text] : cases) EXPECT_EQ(FormatDecimals(value, places), text);
   EXPECT_EQ(FormatDigits(7, 3), "007");
   EXPECT_EQ(FormatDigits(-7, 3), "-007");
   EXPECT_EQ(FormatDigits(12345, 3), "12345");
 }
 
 TEST(FixedNumberTest, FillsTheField) {
-  const struct {
-    float value;
-    int width;
-    int decimals;
-    const char* text;
-  } cases[] = {
+  const std::tuple<float, int, int, const char*> cases[] = {
       {0.0F, 8, 3, "   0.000"},
       {-1.5F, 8, 1, "    -1.5"},
       {1.5F, 8, -3, "  +1.500"},
@@ -142,10 +128,9 @@ TEST(FixedNumberTest, FillsTheField) {
       {-12.0F, 2, 0, "12"},                                    // the sign goes first
       {1.0F, 40, 0, "                                    1"},  // 35 blanks, the sign, the digit
       {2.5F, 3, 0, "  3"},
-      {-2.5F, 3, 0, " -3"},
-  };
-  for (const auto& c : cases) {
-    EXPECT_EQ(FixedNumber(c.value, c.width, c.decimals), c.text) << c.value;
+      {-2.5F, 3, 0, " -3"}};
+  for (const auto& [value, width, decimals, text] : cases) {
+    EXPECT_EQ(FixedNumber(value, width, decimals), text) << value;
   }
 }
 

@@ -8,17 +8,12 @@ namespace {
 TEST(UnitsTest, ShowsValuesInTheChosenUnit) {
   const struct {
     int unit;
-    const char* pressure;
-    const char* pressure_unit;
-    const char* flow;
-    const char* flow_unit;
-  } cases[] = {
-      {1, "1.500", "bar", "100.00", "L/min"},
-      {2, "150", "Kpa", "6000", "L/sec"},
-      {3, "22", "psi", "1585.0", "US gal/min"},  // 21.75 and 1585
-      {0, "", "", "", ""},
-      {4, "", "", "", ""},
-  };
+    const char *pressure, *pressure_unit, *flow, *flow_unit;
+  } cases[] = {{1, "1.500", "bar", "100.00", "L/min"},
+               {2, "150", "Kpa", "6000", "L/sec"},
+               {3, "22", "psi", "1585.0", "US gal/min"},  // 21.75 and 1585
+               {0, "", "", "", ""},
+               {4, "", "", "", ""}};
   Units units;
   EXPECT_EQ(units.PressureUnit(), "bar");
   for (const auto& c : cases) {

@@ -7,7 +7,6 @@
 #include <string>
 #include <tuple>
 #include <utility>
-#include <vector>
 
 #include "calc/calc_options_form.h"
 #include "calc/progress_form.h"

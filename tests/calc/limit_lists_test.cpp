@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <vector>
 
 #include "calc/limit_list_form.h"
 #include "made_network.h"

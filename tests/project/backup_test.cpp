@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <vector>
 
 #include "project/empty_tmp.h"
 #include "project/project_bundle.h"

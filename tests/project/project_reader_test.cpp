@@ -5,7 +5,6 @@
 #include <string>
 #include <tuple>
 #include <utility>
-#include <vector>
 
 #include "model/model_state.h"
 #include "project/project_writer.h"

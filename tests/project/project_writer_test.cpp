@@ -4,7 +4,6 @@
 
 #include <string>
 #include <tuple>
-#include <vector>
 
 #include "project/project_reader.h"
 #include "support/project_text.h"

@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
-
 #include "services/procedure.h"
 #include "services/support_bundle.h"
 #include "services/text.h"

@@ -1,5 +1,4 @@
-#include "services/number_text.h"
-
+// Numbers as texts, and back.
 #include <gtest/gtest.h>
 
 #include <clocale>
@@ -8,6 +7,8 @@
 #include <tuple>
 #include <utility>
 
+#include "services/number_text.h"
+#include "services/units.h"
 #include "support/failure_of.h"
 
 namespace zeb::test {
@@ -145,6 +146,27 @@ TEST(FixedNumberTest, RoundsFourAndFiveDecimalsByTheirSize) {
 TEST(FixedNumberTest, DropsAFractionOfAlmostNothing) {
   EXPECT_EQ(FixedNumber(0.00005F, 10, 6), "  0.000000");
   EXPECT_EQ(FixedNumber(0.0005F, 10, 6), "  0.000500");
+}
+
+TEST(UnitsTest, ShowsValuesInTheChosenUnit) {
+  const struct {
+    int unit;
+    const char *pressure, *pressure_unit, *flow, *flow_unit;
+  } cases[] = {{1, "1.500", "bar", "100.00", "L/min"},
+               {2, "150", "Kpa", "6000", "L/sec"},
+               {3, "22", "psi", "1585.0", "US gal/min"},  // 21.75 and 1585
+               {0, "", "", "", ""},
+               {4, "", "", "", ""}};
+  Units units;
+  EXPECT_EQ(units.PressureUnit(), "bar");
+  for (const auto& c : cases) {
+    units.SetPressureUnit(c.unit);
+    units.SetFlowUnit(c.unit);
+    EXPECT_EQ(units.FormatPressure(1.5F), c.pressure);
+    EXPECT_EQ(units.PressureUnit(), c.pressure_unit);
+    EXPECT_EQ(units.FormatFlow(100.0F), c.flow);
+    EXPECT_EQ(units.FlowUnit(), c.flow_unit);
+  }
 }
 
 }  // namespace

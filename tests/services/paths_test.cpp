@@ -4,7 +4,6 @@
 
 #include <string>
 #include <tuple>
-#include <vector>
 
 #include "services/find_file.h"
 #include "services/project_paths.h"

@@ -4,7 +4,6 @@
 
 #include <functional>
 #include <string>
-#include <vector>
 
 #include "services/component_failure.h"
 #include "services/form_position.h"

@@ -63,6 +63,7 @@ TEST_F(Geometry, SwingJointsCorrectLengths) {
                {"-LC", "N@60", "N@30", 3, 3.4641F, 2.3094F, 4.6188F},
                // No joint: the slopes are no right angle.
                {"1", "N@60", "N@32", 3, 3.4641F, 2.4995F, 4.7167F},
+               {"1", "N@60", "S@31", 3, 3.4641F, 2.4034F, 4.6665F},
                // Up behind a falling pipe: its plan 3 - 4 tan 30 = 0.6906, its rise 0.6906 tan -30.
                {"+WR", "N@-30", "N@60", -0.3987F, 0.7974F, 4, 4.6188F},
                {"1", "N@-30", "N@60", -1.7321F, 3.4641F, 4, 4.6188F},

@@ -26,7 +26,7 @@ struct ProjectReader : testing::Test, TestSession {
   }
 
   void Read(const std::string& bytes) {
-files.Put(kPath, bytes);
+    files.Put(kPath, bytes);
     ReadProject(session);
   }
   void Read(const Texts& head, const Texts& lines) { Read(FileText(Joined(head, lines))); }

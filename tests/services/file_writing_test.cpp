@@ -68,14 +68,6 @@ TEST_F(FileWriting, RefusesWhatMustNotBeReplaced) {
   EXPECT_EQ(files.Bytes("/jobs/a.zeb"), kOld);
 }
 
-TEST_F(FileWriting, WritesWhereALinkPoints) {
-  files.PutFolder("/links");
-  files.PutLink("/links/a.zeb", "/jobs/a.zeb");
-  WriteFileSafely(files, "/links/a.zeb", kNew);
-  EXPECT_EQ(files.Bytes("/jobs/a.zeb"), kNew);
-  EXPECT_FALSE(files.Has("/links/a.zeb"));
-}
-
 TEST_F(FileWriting, AFailedCopyKeepsTheOldOne) {
   files.Put("/jobs/b.zeb", kNew);
   files.FailAt(2, 61);

@@ -170,8 +170,8 @@ TEST(FourHeadSearchTest, OrdersHeadsByBearing) {
 
 // A range of DN 40, pipes 2 to 5, between two mains, with the head at the end of pipe 3; pipe 7
 // drops from there with the head's flow.
-struct Range {
-  Range() {
+struct DesignArea : testing::Test {
+  DesignArea() {
     MadeNetwork network(project);
     const struct {
       int start, end, size;
@@ -190,7 +190,7 @@ struct Range {
   Project project;
 };
 
-TEST(DesignAreaTest, FindsTheFlowsAtBothEndsOfTheRange) {
+TEST_F(DesignArea, FindsTheFlowsAtBothEndsOfTheRange) {
   const struct {
     const char* what;
     int loops, head_pipe, pipe_in_loop;
@@ -200,28 +200,27 @@ TEST(DesignAreaTest, FindsTheFlowsAtBothEndsOfTheRange) {
                {"below the range, in no loop", 4, 7, 5, 0, 0},
                {"too few loops", 3, 3, 5, 0, 0}};
   for (const auto& c : cases) {
-    Range range;
-    range.project.LoopCount = c.loops;
-    range.project.HeadPipe[1] = static_cast<float>(c.head_pipe);
-    range.project.LoopPipes[1] = c.pipe_in_loop;
-    FindDesignAreaFlows(range.project, 1);
-    EXPECT_EQ(range.project.AmaoFlowA, c.flow_a) << c.what;
-    EXPECT_EQ(range.project.AmaoFlowB, c.flow_b) << c.what;
-    EXPECT_EQ(range.project.AmaoDifference, c.flow_a - c.flow_b) << c.what;
+    project.AmaoFlowA = project.AmaoFlowB = project.AmaoDifference = 0.0F;
+    project.LoopCount = c.loops;
+    project.HeadPipe[1] = static_cast<float>(c.head_pipe);
+    project.LoopPipes[1] = c.pipe_in_loop;
+    FindDesignAreaFlows(project, 1);
+    EXPECT_EQ(project.AmaoFlowA, c.flow_a) << c.what;
+    EXPECT_EQ(project.AmaoFlowB, c.flow_b) << c.what;
+    EXPECT_EQ(project.AmaoDifference, c.flow_a - c.flow_b) << c.what;
   }
 }
 
-TEST(DesignAreaTest, GradesTheDifference) {
+TEST_F(DesignArea, GradesTheDifference) {
   const std::pair<float, const char*> cases[] = {
       {15.0F, "This is certainly the correct AMAO"},
       {15.01F, "This may not be the right AMAO - try moving heads"},
       {29.99F, "This may not be the right AMAO - try moving heads"},
       {30.0F, ""},
       {30.01F, "Unlikely to be the right AMAO - try moving heads"}};
-  Range range;
   for (const auto& [difference, grade] : cases) {
-    range.project.AmaoDifference = difference;
-    EXPECT_EQ(DesignAreaGrade(range.project), grade) << difference;
+    project.AmaoDifference = difference;
+    EXPECT_EQ(DesignAreaGrade(project), grade) << difference;
   }
 }
 

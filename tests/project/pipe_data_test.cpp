@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <map>
 #include <string>
 #include <tuple>
 #include <utility>
@@ -13,6 +12,7 @@
 #include "services/text.h"
 #include "support/failure_of.h"
 #include "support/real_file.h"
+#include "support/slots.h"
 #include "support/small_pipe_data.h"
 #include "support/test_session.h"
 
@@ -35,8 +35,8 @@ struct PipeDataReader : testing::Test, TestSession {
     ReadPipeData(session, mode);
   }
 
-  const std::string path = session.folders.PdtFolder + "/TEST.PDT";
-
+  const std::string& folder = session.folders.PdtFolder;
+  const std::string path = folder + "/TEST.PDT";
   Texts captions;
   bool stop_at_fault = false;
 };
@@ -179,8 +179,7 @@ TEST_F(PipeDataReader, LineBreaksBetweenFieldsCarryNoMeaning) {
     project.PipeTypeDescriptions.Clear();
     Read(ReplaceAll(text, from, to));
     EXPECT_TRUE(project.Faults.empty());
-    EXPECT_EQ(project.PipeTypeDescriptions[1], "Steel medium");
-    EXPECT_EQ(project.PipeTypeDescriptions[2], "Copper tube");
+    EXPECT_EQ(Slots(project.PipeTypeDescriptions, 1, 2), (Texts{"Steel medium", "Copper tube"}));
     EXPECT_EQ(project.PipeBores[3][1], 105.3F);
     EXPECT_EQ(project.EqLengthsNfpa[2][3], 20.0F);
   }
@@ -222,15 +221,14 @@ TEST_F(PipeDataReader, ChangesCOfMaterialsUnderNfpaRules) {
 }
 
 TEST_F(PipeDataReader, FindsItsFileWhateverTheCase) {
-  files.Put(session.folders.PdtFolder + "/Test.pdt", SmallPipeData().Text());
+  files.Put(folder + "/Test.pdt", SmallPipeData().Text());
   ReadPipeData(session, CheckMode::kKeepLines);
   EXPECT_EQ(project.PipeTypeCount, 2);
-  EXPECT_EQ(project.PipeDataPath, session.folders.PdtFolder + "/Test.pdt");
+  EXPECT_EQ(project.PipeDataPath, folder + "/Test.pdt");
   EXPECT_EQ(shell.panels[Panel::kHint], "Reading in and checking " + project.PipeDataPath + " ...");
 
   // Two that differ only in case: the project's spelling tells which, else the user does.
-  files.Put(session.folders.PdtFolder + "/test.pdt",
-            SmallPipeData().With(2, "1,100,1,0.046,1,MED,Steel"));
+  files.Put(folder + "/test.pdt", SmallPipeData().With(2, "1,100,1,0.046,1,MED,Steel"));
   project.PipeLines[9] = "test.pdt";
   ReadPipeData(session, CheckMode::kKeepLines);
   EXPECT_EQ(project.TypeC[1], 100.0F);
@@ -242,18 +240,18 @@ TEST_F(PipeDataReader, FindsItsFileWhateverTheCase) {
 }
 
 TEST_F(PipeDataReader, FallsBackToTheStandardFolderThenToTheStandardFile) {
-  files.Put(session.folders.PdtFolder + "/STD_PIPE.PDT", SmallPipeData().Text());
+  files.Put(folder + "/STD_PIPE.PDT", SmallPipeData().Text());
   project.ProjectFolder = "/projects";
-  const std::map<std::string, std::string> last_tried = {{"/projects", session.folders.PdtFolder},
-                                                         {"/standard", "/standard"}};
-  for (const auto& [standard_folder, folder] : last_tried) {
+  const std::pair<std::string, std::string> last_tried[] = {{"/projects", folder},
+                                                            {"/standard", "/standard"}};
+  for (const auto& [standard_folder, tried] : last_tried) {
     SCOPED_TRACE(standard_folder);
     dialogs.messages.clear();
     project.StandardFolder = standard_folder;
     project.PipeDataFile = "OTHER.PDT";
     ReadPipeData(session, CheckMode::kKeepLines);
     EXPECT_EQ(dialogs.Shown(), (Boxes{{"The program will have to continue with STD_PIPE.PDT",
-                                       "Cannot read in " + folder + "/OTHER.PDT"}}));
+                                       "Cannot read in " + tried + "/OTHER.PDT"}}));
     EXPECT_EQ(project.PipeDataFile, "STD_PIPE.PDT");
     EXPECT_EQ(project.PipeTypeCount, 2);
   }
@@ -266,7 +264,6 @@ TEST_F(PipeDataReader, FallsBackToTheStandardFolderThenToTheStandardFile) {
 TEST_F(PipeDataReader, StopsTheCheckWithoutAnyFile) {
   project.PipeTypeCount = 7;
   ReadPipeData(session, CheckMode::kKeepLines);
-  const std::string& folder = session.folders.PdtFolder;
   EXPECT_EQ(
       dialogs.Shown(),
       (Boxes{{"The program will have to continue with STD_PIPE.PDT",
@@ -294,8 +291,8 @@ TEST_F(PipeDataReader, StopsTheCheckForBytesThatAreNoPipeData) {
                   "ZEB,12:00,1,1,1,1,120,1,0.046,1,MED," + std::string(10'000'000, '7'),
                   "ZEB,12:00," + std::string(10'000'000, '7')};
   const std::string whole = SmallPipeData().Text();
-  for (std::size_t end = 0; end <= whole.rfind(',') + 1; ++end)
-    broken.push_back(whole.substr(0, end));
+  const std::size_t last = whole.rfind(',') + 1;
+  for (std::size_t size = 0; size <= last; ++size) broken.push_back(whole.substr(0, size));
   for (const std::string& bytes : broken) {
     SCOPED_TRACE(bytes.substr(0, 60) + " of " + std::to_string(bytes.size()));
     Read(bytes);
@@ -322,7 +319,7 @@ TEST_F(PipeDataReader, ReadsTheShippedFilesWithoutAReport) {
 }
 
 struct PipeDataWriter : PipeDataReader {
-  const std::string backup = session.folders.PdtFolder + "/TEST.BAK";
+  const std::string backup = folder + "/TEST.BAK";
 };
 
 TEST_F(PipeDataWriter, WritesFixedFields) {

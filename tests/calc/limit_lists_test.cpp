@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 
 #include "calc/limit_list_form.h"
 #include "made_network.h"
@@ -33,14 +34,13 @@ struct WithinLimits : TestSession {
     project.maxVel = 6.0F;
     project.maxPD = 1.0F;
     shell.OnForm<LimitListForm>("frmLimitList", [this](const LimitListForm& form) {
-      headers.push_back(form.Header);
+      headers += form.Header;
       text = form.Caption + "\n" + form.Title + "\n" + form.Header + "\n" + form.Columns[0] + "\n" +
              form.Columns[1] + "\n" + form.Rows + form.Foot;
     });
   }
 
-  Texts headers;
-  std::string text;
+  std::string headers, text;
 };
 
 struct LimitLists : testing::Test, WithinLimits {};
@@ -78,33 +78,25 @@ TEST_F(LimitLists, ListsHeadsAndMarksThem) {
 }
 
 TEST(LimitListsTest, CountsALimitItselfAsBroken) {
-  const struct {
-    Table<float, kLastPipe> PipeTables::*pipe_row;
-    Table<float, kLastHead> HeadTables::*head_row;
-    float value;
-    Texts headers;
-  } cases[] = {
-      {&PipeTables::PipeVelocity, {}, 1.0F, {"1 pipes with velocities under 1 m/s"}},
-      {&PipeTables::PipeVelocity, {}, 1.001F, {}},
-      {&PipeTables::PipeVelocity, {}, 5.999F, {}},
-      {&PipeTables::PipeDrop, {}, -1.0F, {"1 pipes with pressure drops over 1 bar"}},
-      {&PipeTables::PipeDrop, {}, -0.999F, {}},
-      {{}, &HeadTables::HeadMinPress, 1.0009F, {}},
-      {{}, &HeadTables::HeadDensity, 5.0009F, {}},
-      {{},
-       &HeadTables::HeadDensity,
-       5.0011F,
-       {"1 heads are under their minimum specified density"}},
+  const std::pair<void (*)(Project&), std::string> cases[] = {
+      {[](Project& p) { p.PipeVelocity[2] = 1.0F; }, "1 pipes with velocities under 1 m/s"},
+      {[](Project& p) { p.PipeVelocity[2] = 1.001F; }, ""},
+      {[](Project& p) { p.PipeVelocity[2] = 5.999F; }, ""},
+      {[](Project& p) { p.PipeDrop[2] = -1.0F; }, "1 pipes with pressure drops over 1 bar"},
+      {[](Project& p) { p.PipeDrop[2] = -0.999F; }, ""},
+      {[](Project& p) { p.HeadMinPress[1] = 1.0009F; }, ""},
+      {[](Project& p) { p.HeadDensity[1] = 5.0009F; }, ""},
+      {[](Project& p) { p.HeadDensity[1] = 5.0011F; },
+       "1 heads are under their minimum specified density"},
       // The head gives three times 20 L/min, which it would give at 1/9 bar.
-      {{}, &HeadTables::HeadStartPressure, 0.1112F, {}},
-      {{}, &HeadTables::HeadStartPressure, 0.111F, {"1 heads are over 3 x required minimum flow"}},
-  };
-  for (const auto& c : cases) {
+      {[](Project& p) { p.HeadStartPressure[1] = 0.1112F; }, ""},
+      {[](Project& p) { p.HeadStartPressure[1] = 0.111F; },
+       "1 heads are over 3 x required minimum flow"}};
+  for (const auto& [change, headers] : cases) {
     WithinLimits t;
-    if (c.pipe_row != nullptr) (t.project.*c.pipe_row)[2] = c.value;
-    if (c.head_row != nullptr) (t.project.*c.head_row)[1] = c.value;
+    change(t.project);
     ShowLimitLists(t.session);
-    EXPECT_EQ(t.headers, c.headers) << c.value;
+    EXPECT_EQ(t.headers, headers);
   }
 }
 
@@ -115,7 +107,7 @@ TEST_F(LimitLists, LeavesOutAddedBuildingsAndHeadsThatAreOff) {
   project.HeadCode[1] = 1.0F;
   project.SelectedHeadsMode = 1;
   ShowLimitLists(session);
-  EXPECT_TRUE(headers.empty());
+  EXPECT_EQ(headers, "");
 }
 
 }  // namespace

@@ -1,10 +1,12 @@
-#include "project/backup.h"
-
+// Copies of project files, and what the user is told when a file fails.
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 
+#include "project/backup.h"
 #include "project/empty_tmp.h"
+#include "project/file_failures.h"
 #include "project/project_bundle.h"
 #include "services/text.h"
 #include "support/project_text.h"
@@ -79,6 +81,34 @@ TEST_F(Backup, TheSupportBundleLeavesTheProjectUnsaved) {
   EXPECT_EQ(entries[0].name, "22112026090507.zeb");
   EXPECT_EQ(entries[0].bytes, files.Bytes("/prog/22112026090507.zeb"));
   EXPECT_TRUE(entries[0].bytes.ends_with("\r\nitem\r\nEND\r\n"));
+}
+
+TEST(FileFailures, EachNumberHasItsBox) {
+  const std::tuple<int, ShownBox, MessageButtons> cases[] = {
+      {61, {"Drive File Error", "Disk or device is full! \r\n"}, MessageButtons::kRetryCancel},
+      {70, {"Disk File Error", "Permission denied"}, MessageButtons::kOk},
+      {9, {"ZEB", "Subscript out of range\r\n 9ZEB at line 30"}, MessageButtons::kOk}};
+  for (const auto& [number, box, buttons] : cases) {
+    TestSession test;
+    test.session.project.ProductName = "ZEB";
+    test.dialogs.answers = {Answer::kCancel};
+    const RuntimeFailure failure(number);
+    EXPECT_FALSE(RunFileStatement(test.session, "X.Y", 30, [&] { throw failure; }));
+    ASSERT_EQ(test.dialogs.Shown(), Boxes{box});
+    EXPECT_EQ(test.dialogs.messages[0].buttons, buttons) << number;
+    EXPECT_TRUE(Contains(test.files.Bytes("/prog/ZEB_error.log"), std::to_string(number)));
+  }
+}
+
+TEST(FileFailures, RetriesAsLongAsTheUserAsks) {
+  TestSession test;
+  int tries = 0;
+  test.dialogs.answers = {Answer::kRetry, Answer::kRetry};
+  EXPECT_TRUE(RunFileStatement(test.session, "X.Y", 30, [&] {
+    if (++tries < 3) throw RuntimeFailure(failure::kDiskFull);
+  }));
+  EXPECT_EQ(tries, 3);
+  EXPECT_FALSE(test.files.Has("/prog/ZEB_error.log"));
 }
 
 }  // namespace

@@ -24,6 +24,10 @@ struct HeadCodes : testing::Test, TestSession {
   void Fill(int count) {
     SetLines(Texts(static_cast<std::size_t>(count), "01 15.0  80.00   0.50 STD1"));
   }
+  void Add(const char* size, const char* k, const char* pressure, const char* name) {
+    editor.cmdAddHeadCode_Click();
+    Enter(size, k, pressure, name);
+  }
   void Enter(const char* size, const char* k, const char* pressure, const char* name) {
     editor.Size = size;
     editor.KFactor = k;
@@ -59,8 +63,7 @@ TEST_F(HeadCodes, TheCheckReadsWhatWasEntered) {
     for (const auto& [size, k, pressure, orifice_read] : cases) {
       SCOPED_TRACE(std::string(size) + " as code " + std::to_string(code));
       Fill(code - 1);
-      editor.cmdAddHeadCode_Click();
-      Enter(size, k, pressure, "NAME");
+      Add(size, k, pressure, "NAME");
       ASSERT_EQ(project.HeadCodeCount, code);
       ParseHeadCodes(project);
       EXPECT_EQ(project.HeadCodeOrifice[code], orifice_read);
@@ -80,8 +83,7 @@ TEST_F(HeadCodes, AddedLinesHaveTheirFields) {
   EXPECT_EQ(editor.SelectedPosition(), 1);
   EXPECT_EQ(editor.Changes, 1);
 
-  editor.cmdAddHeadCode_Click();
-  Enter("15", "1200", "0.5", "TOO LARGE");  // its first digit would stand in a column not read
+  Add("15", "1200", "0.5", "TOO LARGE");  // its first digit would stand in a column not read
   EXPECT_TRUE(editor.Editing());
   EXPECT_EQ(dialogs.messages.size(), 1U);
   editor.cmdCancelHeadCode_Click();
@@ -91,8 +93,7 @@ TEST_F(HeadCodes, AddedLinesHaveTheirFields) {
 
 TEST_F(HeadCodes, TheListEndsAt400) {
   Fill(400);
-  editor.cmdAddHeadCode_Click();
-  Enter("15", "80", "0.5", "STD");
+  Add("15", "80", "0.5", "STD");
   EXPECT_EQ(project.HeadCodeCount, 400);
   ASSERT_EQ(dialogs.messages.size(), 1U);
   EXPECT_TRUE(dialogs.messages[0].text.starts_with("Subscript out of range"));
@@ -101,8 +102,7 @@ TEST_F(HeadCodes, TheListEndsAt400) {
 // The editor takes code 100 for a wide one, the check for a narrow one.
 TEST_F(HeadCodes, Code100IsReadDifferently) {
   Fill(99);
-  editor.cmdAddHeadCode_Click();
-  Enter("15", "80", "0.5", "STD");
+  Add("15", "80", "0.5", "STD");
   EXPECT_EQ(HeadCodeAt(project, 100).k, 80.0F);
   ParseHeadCodes(project);
   EXPECT_EQ(project.HeadCodeK[100], 0.0F);

@@ -42,11 +42,11 @@ struct PosixFileSystemTest : testing::Test {
   }
 
   TemporaryFolder folder;
+  const std::string path = folder / "a.zeb";
   PosixFileSystem files;
 };
 
 TEST_F(PosixFileSystemTest, WritesReadsAndRemoves) {
-  const std::string path = folder / "a.zeb";
   std::string bytes(200000, 'x');
   bytes[1] = '\0';
   files.WriteFile(path, bytes);
@@ -86,17 +86,16 @@ TEST_F(PosixFileSystemTest, TellsFailuresByTheirNumbers) {
 TEST_F(PosixFileSystemTest, NeverWaitsForAPipeNorReadsADevice) {
   const std::string pipe = folder / "pipe";
   ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
-  for (const std::string& path : {pipe, std::string("/dev/zero"), folder / ""}) {
-    EXPECT_EQ(FailureOf([&] { (void)files.ReadFile(path); }), 75) << path;
-    EXPECT_EQ(FailureOf([&] { files.WriteFile(path, "x"); }), 75) << path;
-    EXPECT_EQ(FailureOf([&] { WriteFileSafely(files, path, "x"); }), 75) << path;
-    EXPECT_EQ(FailureOf([&] { (void)files.FileSize(path); }), 75) << path;
+  for (const std::string& odd : {pipe, std::string("/dev/zero"), folder / ""}) {
+    EXPECT_EQ(FailureOf([&] { (void)files.ReadFile(odd); }), 75) << odd;
+    EXPECT_EQ(FailureOf([&] { files.WriteFile(odd, "x"); }), 75) << odd;
+    EXPECT_EQ(FailureOf([&] { WriteFileSafely(files, odd, "x"); }), 75) << odd;
+    EXPECT_EQ(FailureOf([&] { (void)files.FileSize(odd); }), 75) << odd;
   }
   EXPECT_TRUE(fs::is_fifo(pipe));
 }
 
 TEST_F(PosixFileSystemTest, KeepsPermissionsAndLinks) {
-  const std::string path = folder / "a.zeb";
   files.WriteFile(path, "old");
   chmod(path.c_str(), 0640);
   fs::create_symlink("a.zeb", folder / "link");
@@ -115,7 +114,6 @@ TEST_F(PosixFileSystemTest, KeepsPermissionsAndLinks) {
 
 // Root may write anything, so the child is another user.
 TEST_F(PosixFileSystemTest, RefusesReadOnlyFilesAndFolders) {
-  const std::string path = folder / "a.zeb";
   files.WriteFile(path, "old");
   for (const auto& [file_mode, folder_mode] : {std::pair{0444, 0777}, std::pair{0666, 0555}}) {
     chmod(path.c_str(), file_mode);
@@ -149,7 +147,6 @@ TEST_F(PosixFileSystemTest, OpensNamesInAndOutsideTheCodePage) {
 
 // A disk with room for half of the new bytes.
 TEST_F(PosixFileSystemTest, AFullDiskLeavesTheOldFile) {
-  const std::string path = folder / "a.zeb";
   const std::string old_bytes(100000, 'o');
   files.WriteFile(path, old_bytes);
   const pid_t child = Fork([&] {
@@ -165,7 +162,6 @@ TEST_F(PosixFileSystemTest, AFullDiskLeavesTheOldFile) {
 
 // A child saves two contents in turn until it is killed, at moments that differ.
 TEST_F(PosixFileSystemTest, AKilledSaveLeavesAWholeFile) {
-  const std::string path = folder / "a.zeb";
   const Texts contents{std::string(300000, 'a'), std::string(500000, 'b')};
   files.WriteFile(path, contents[0]);
   for (int round = 0; round < 20; ++round) {

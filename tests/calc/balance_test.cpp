@@ -3,8 +3,8 @@
 
 #include <cmath>
 #include <cstdlib>
-#include <functional>
 #include <map>
+#include <tuple>
 #include <utility>
 
 #include "calc/calculation.h"
@@ -15,16 +15,13 @@
 #include "made_network.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
 
-using test::LossOf;
-
-struct Balance : test::TestSession {
+struct Balance : TestSession {
   bool Calculate() { return Calculation(session, CalculationMode::kSilent); }
 
-  Project& project = session.project;
-  test::MadeNetwork network{project};
+  MadeNetwork network{project};
 };
 
 // What every balanced result keeps, whatever the network: flows that meet at the nodes, heads on
@@ -61,12 +58,7 @@ TEST(BalanceTest, OneHeadAsksForItsPressureAndAllLosses) {
   const auto feed = [](double flow) { return LossOf(flow, 105.3, 20.0); };
   const auto last = [](double flow) { return LossOf(flow, 27.3, 10.0); };
   const double plain = 0.5625 + feed(60.0) + last(60.0);
-  struct Case {
-    const char* what;
-    std::function<void(Project&)> set;
-    double flow, pressure;
-  };
-  const Case cases[] = {
+  const std::tuple<const char*, void (*)(Project&), double, double> cases[] = {
       {"5 m down", [](Project& p) { p.PipeZ[2] = -5.0F; }, 60.0, plain - 0.5},
       {"heavy fluid, 5 m up",
        [](Project& p) { p.PipeZ[2] = 5.0F, ItemText(p, Item::kFluid) = "Foam SG=1.2"; }, 60.0,
@@ -81,14 +73,14 @@ TEST(BalanceTest, OneHeadAsksForItsPressureAndAllLosses) {
       {"minimum pressure governs", [](Project& p) { p.HeadMinPress[1] = 0.81F; }, 72.0,
        0.81 + feed(72.0) + last(72.0)},
   };
-  for (const Case& c : cases) {
+  for (const auto& [what, change, flow, pressure] : cases) {
     Balance run;
     run.network.Pipe(1, 2, 5, 20.0F);
     run.network.Head(run.network.Pipe(2, 3, 1, 10.0F), 80.0F, 12.0F, 5.0F, 0.5F);
-    c.set(run.project);
-    EXPECT_TRUE(run.Calculate()) << c.what;
-    EXPECT_NEAR(run.project.SourceFlow, c.flow, 1e-2) << c.what;
-    EXPECT_NEAR(run.project.SourcePressure, c.pressure, 1e-4) << c.what;
+    change(run.project);
+    EXPECT_TRUE(run.Calculate()) << what;
+    EXPECT_NEAR(run.project.SourceFlow, flow, 1e-2) << what;
+    EXPECT_NEAR(run.project.SourcePressure, pressure, 1e-4) << what;
   }
 }
 
@@ -215,4 +207,4 @@ TEST(BalanceTest, StartsOverWhenItDiverges) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

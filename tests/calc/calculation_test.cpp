@@ -4,20 +4,21 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <functional>
 #include <string>
-#include <vector>
+#include <tuple>
+#include <utility>
 
 #include "calc/calc_options_form.h"
 #include "calc/progress_form.h"
 #include "made_network.h"
+#include "services/text.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
 
 // A feed and a range of twelve heads, whose options the user accepts.
-struct Command : test::TestSession {
+struct Command : TestSession {
   Command() {
     project.LineCount = kItemCount;
     shell.OnForm<CalcOptionsForm>("frmCalc", [](CalcOptionsForm& form) { form.OK_Click(); });
@@ -45,62 +46,53 @@ struct Command : test::TestSession {
     EXPECT_FALSE(shell.busy_pointer);
   }
 
-  Project& project = session.project;
-  test::MadeNetwork network{project};
+  MadeNetwork network{project};
 };
 
-TEST(CalculationTest, EndsWithResultsOnTheScreen) {
-  Command run;
-  run.shell.on_yield = [&] { run.clock.seconds += 0.25; };
-  ASSERT_TRUE(run.Calculate());
-  EXPECT_TRUE(run.dialogs.messages.empty());
-  EXPECT_EQ(run.project.ModelState, 3);
-  EXPECT_EQ(run.project.ResultLine.substr(0, 13), "Source Duty =");
-  EXPECT_EQ(run.shell.panels[Panel::kHint], run.project.ResultLine + " calculated");
-  EXPECT_EQ(run.project.UndoNames[1].substr(0, 10), "Calculated");
-  for (const Feature feature : {Feature::kDisplayMenu, Feature::kPrintMenu, Feature::kReport}) {
-    EXPECT_TRUE(run.shell.features[feature]);
-  }
-  EXPECT_EQ(run.commands.view_resets, 1);
-  EXPECT_EQ(run.shell.redraws, 1);
-  EXPECT_EQ(run.shell.open_forms, std::vector<std::string>{"frmCalcProgress"});
-  EXPECT_EQ(std::ranges::count(run.shell.closed_forms, "frmCalcProgress"), 1);
-  EXPECT_FALSE(run.shell.refreshed_forms.empty());
-  EXPECT_EQ(run.project.RemotestNode, 14);
-  EXPECT_GT(run.project.CalculationTime, 1.0F);
-  EXPECT_NEAR(run.project.PipeEndPressure[13], 0.5625F, 0.001F);
+struct CalculationCommand : testing::Test, Command {};
 
-  run.project.IterationCount = 0;
-  EXPECT_TRUE(run.Calculate());
-  EXPECT_EQ(run.project.IterationCount, 0) << "a calculated system is not calculated again";
+TEST_F(CalculationCommand, EndsWithResultsOnTheScreen) {
+  shell.on_yield = [&] { clock.seconds += 0.25; };
+  ASSERT_TRUE(Calculate());
+  EXPECT_TRUE(dialogs.messages.empty());
+  EXPECT_EQ(project.ModelState, 3);
+  EXPECT_EQ(project.ResultLine.substr(0, 13), "Source Duty =");
+  EXPECT_EQ(shell.panels[Panel::kHint], project.ResultLine + " calculated");
+  EXPECT_EQ(project.UndoNames[1].substr(0, 10), "Calculated");
+  for (const Feature feature : {Feature::kDisplayMenu, Feature::kPrintMenu, Feature::kReport}) {
+    EXPECT_TRUE(shell.features[feature]);
+  }
+  EXPECT_EQ(commands.view_resets, 1);
+  EXPECT_EQ(shell.redraws, 1);
+  EXPECT_EQ(shell.open_forms, Texts{"frmCalcProgress"});
+  EXPECT_EQ(std::ranges::count(shell.closed_forms, "frmCalcProgress"), 1);
+  EXPECT_FALSE(shell.refreshed_forms.empty());
+  EXPECT_EQ(project.RemotestNode, 14);
+  EXPECT_GT(project.CalculationTime, 1.0F);
+  EXPECT_NEAR(project.PipeEndPressure[13], 0.5625F, 0.001F);
+
+  project.IterationCount = 0;
+  EXPECT_TRUE(Calculate());
+  EXPECT_EQ(project.IterationCount, 0) << "a calculated system is not calculated again";
 }
 
 TEST(CalculationTest, TellsWhatIsInItsWay) {
-  struct Case {
-    std::function<void(Project&)> set;
-    std::string title;
-  };
-  const Case cases[] = {
+  const std::pair<void (*)(Project&), std::string> cases[] = {
       {[](Project& p) { p.PipeCount = 1; }, "Cannot calculate!"},
       {[](Project& p) { p.SelectedHeadsMode = 1; }, "Cannot calculate!"},
       {[](Project& p) { p.HeadCount = 0, p.HydrantCount = 1; },
-       "You must specify a pump curve if you have hydrant(s) and no heads"},
-  };
-  for (const Case& c : cases) {
+       "You must specify a pump curve if you have hydrant(s) and no heads"}};
+  for (const auto& [change, title] : cases) {
     Command run;
-    c.set(run.project);
+    change(run.project);
     EXPECT_FALSE(run.Calculate());
-    EXPECT_EQ(run.dialogs.Titles(), std::vector{c.title});
+    EXPECT_EQ(run.dialogs.Titles(), Texts{title});
     EXPECT_TRUE(run.shell.modal_forms.empty());
   }
 }
 
 TEST(CalculationTest, WarnsOfWhatLooksWrong) {
-  struct Case {
-    std::function<void(Command&)> set;
-    std::string title, text;
-  };
-  const Case cases[] = {
+  const std::tuple<void (*)(Command&), std::string, std::string> cases[] = {
       {[](Command& c) {
          c.network.Supply({12.0F, 8.0F, 3000.0F, 6.0F});
        },
@@ -129,14 +121,13 @@ TEST(CalculationTest, WarnsOfWhatLooksWrong) {
        "too small."},
       // 25 m up and down again before the heads.
       {[](Command& c) { c.project.PipeRise[1] = 25.0F, c.project.PipeRise[2] = -22.0F; },
-       "Source duty is not high enough", "There are 1 pipes with end pressures less than 0.1 bar"},
-  };
-  for (const Case& c : cases) {
+       "Source duty is not high enough", "There are 1 pipes with end pressures less than 0.1 bar"}};
+  for (const auto& [change, title, text] : cases) {
     Command run;
-    c.set(run);
-    EXPECT_TRUE(run.Calculate()) << c.title;
-    EXPECT_TRUE(run.Showed(c.title, c.text)) << c.title;
-    EXPECT_EQ(run.project.ModelState, 3) << c.title;
+    change(run);
+    EXPECT_TRUE(run.Calculate()) << title;
+    EXPECT_TRUE(run.Showed(title, text)) << title;
+    EXPECT_EQ(run.project.ModelState, 3) << title;
   }
   Command limits;  // just not wrong
   limits.network.Supply({10.0F, 8.0F, 3000.0F, 6.0F});
@@ -170,13 +161,8 @@ TEST(CalculationTest, CancelsWithoutAResult) {
 // Arithmetic that fails and tables that lead nowhere end the calculation with a box, unless it is
 // silent, and with an entry in the log that names the stage.
 TEST(CalculationTest, FailsWithoutAResult) {
-  struct Case {
-    std::function<void(Project&)> set;
-    CalculationMode mode;
-    std::string stage;
-  };
   constexpr CalculationMode kAsk = CalculationMode::kInteractive;
-  const Case cases[] = {
+  const std::tuple<void (*)(Project&), CalculationMode, std::string> cases[] = {
       {[](Project& p) { ItemText(p, Item::kFluid) = "SG=0"; }, kAsk, "flow totals"},
       {[](Project& p) { p.PipeBores[4][1] = 0.0F; }, CalculationMode::kSilent, "Sizing/eq.lens"},
       {[](Project& p) { p.HeadK[3] = 3e38F, p.HeadMinPress[3] = 3e38F; }, kAsk, "flow totals"},
@@ -184,30 +170,28 @@ TEST(CalculationTest, FailsWithoutAResult) {
       {[](Project& p) {
          p.SupplyNames[1] = "Main", p.SupplyTable[1] = {9e3F, 5, 9e3F, 4};
        },
-       kAsk, "head balance"},
-  };
-  for (const Case& c : cases) {
+       kAsk, "head balance"}};
+  for (const auto& [change, mode, stage] : cases) {
     Command run;
-    c.set(run.project);
-    EXPECT_FALSE(Calculation(run.session, c.mode)) << c.stage;
+    change(run.project);
+    EXPECT_FALSE(Calculation(run.session, mode)) << stage;
     EXPECT_EQ(run.Showed("Calculation Error",
                          "ZEB has not been able to complete the calculation please try selecting a "
                          "new set of heads / nozzles"),
-              c.mode == kAsk);
+              mode == kAsk);
     const std::string log = run.files.Bytes("/prog/ZEB_error.log");
-    EXPECT_NE(log.find("Calc Mod line: "), std::string::npos) << log;
-    EXPECT_NE(log.find(c.stage), std::string::npos) << log;
+    EXPECT_TRUE(Contains(log, "Calc Mod line: ")) << log;
+    EXPECT_TRUE(Contains(log, stage)) << log;
     run.ExpectNoResult();
   }
 }
 
-TEST(CalculationTest, UnderNfpaRulesTheControlHeadIsTheFirstOfTheFour) {
-  Command run;
-  run.project.RuleType = 2;
-  EXPECT_TRUE(run.Calculate());
-  EXPECT_EQ(run.project.MrHead1, 12);
-  EXPECT_EQ(run.project.RemotestHead, 12);
+TEST_F(CalculationCommand, UnderNfpaRulesTheControlHeadIsTheFirstOfTheFour) {
+  project.RuleType = 2;
+  EXPECT_TRUE(Calculate());
+  EXPECT_EQ(project.MrHead1, 12);
+  EXPECT_EQ(project.RemotestHead, 12);
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

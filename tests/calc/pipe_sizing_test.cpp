@@ -3,24 +3,22 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <functional>
 #include <string>
+#include <tuple>
 #include <vector>
 
+#include "calc/fluid.h"
 #include "calc/sizing_form.h"
 #include "calc/unsized_pipes.h"
 #include "made_network.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::LossOf;
-using test::MadeNetwork;
 
 // An unsized pipe of 10 m with 100 L/min: 2.85 m/s and 43.8 mbar/m in DN 25, 1.21 m/s and
 // 5.4 mbar/m in DN 40.
-struct OneUnsizedPipe : test::TestSession {
+struct OneUnsizedPipe : TestSession {
   OneUnsizedPipe() {
     MadeNetwork(project).Pipe(1, 2, 0, 10.0F);
     project.PipeUnsized[1] = 1;
@@ -30,8 +28,6 @@ struct OneUnsizedPipe : test::TestSession {
     project.SizingPdPerM = project.SizingLimit = 50.0F;
     project.SizingMinNominal = 25.0F;
   }
-
-  Project& project = session.project;
 };
 
 void SizeByGradient(Project& p, float limit) {
@@ -40,11 +36,7 @@ void SizeByGradient(Project& p, float limit) {
 }
 
 TEST(PipeSizingTest, TakesTheFirstSizeWellWithinTheLimit) {
-  const struct {
-    const char* what;
-    std::function<void(Project&)> set;
-    int nominal;
-  } cases[] = {
+  const std::tuple<const char*, void (*)(Project&), int> cases[] = {
       {"velocity", [](Project&) {}, 25},
       {"four fifths of the velocity", [](Project& p) { p.maxVel = 3.5F; }, 40},
       {"backward flow", [](Project& p) { p.maxVel = 3.5F, p.PipeFlow[1] = -100.0F; }, 40},
@@ -57,53 +49,48 @@ TEST(PipeSizingTest, TakesTheFirstSizeWellWithinTheLimit) {
       {"four fifths of the gradient", [](Project& p) { SizeByGradient(p, 50.0F); }, 40},
       {"total", [](Project& p) { p.SizingMethod = kSizeByTotalDrop, p.SizingLimit = 6.9F; }, 40},
       {"a fixed drop in every size",
-       [](Project& p) {
-         SizeByGradient(p, 50.0F);
-         p.PipePressDrop[1] = 1.0F;
-       },
-       350},
+       [](Project& p) { SizeByGradient(p, 50.0F), p.PipePressDrop[1] = 1.0F; }, 350},
       {"Darcy-Weisbach, 36.8 mbar/m in DN 25",
        [](Project& p) {
-         SizeByGradient(p, 44.0F);
-         p.LossModel = 2;
-         p.FluidDensity = 998.0F;
-         p.FluidViscosity = 0.95F;
+         SizeByGradient(p, 50.0F);
+         ItemText(p, Item::kFluid) = "DWF";
+         ReadFluidSettings(p);
        },
-       40},
-  };
-  for (const auto& c : cases) {
+       25}};
+  for (const auto& [what, change, nominal] : cases) {
     OneUnsizedPipe t;
-    c.set(t.project);
+    change(t.project);
     ChoosePipeSize(t.session, 1);
-    EXPECT_EQ(t.project.PipeSize[1], c.nominal) << c.what;
-    EXPECT_EQ(t.project.NominalSize(1, t.project.PipeSizeIndex[1]), c.nominal) << c.what;
-    EXPECT_EQ(t.project.SizedCount, 1) << c.what;
+    EXPECT_EQ(t.project.PipeSize[1], nominal) << what;
+    EXPECT_EQ(t.project.NominalSize(1, t.project.PipeSizeIndex[1]), nominal) << what;
+    EXPECT_EQ(t.project.SizedCount, 1) << what;
   }
 }
 
-TEST(PipeSizingTest, NeverGoesDownAndCountsAPipeOnce) {
-  OneUnsizedPipe t;
-  t.project.PipeElbows[1] = 1;
-  t.project.WeldSize = 50;
+struct PipeSizing : testing::Test, OneUnsizedPipe {};
+
+TEST_F(PipeSizing, NeverGoesDownAndCountsAPipeOnce) {
+  project.PipeElbows[1] = 1;
+  project.WeldSize = 50;
   for (const float flow : {150.0F, 200.0F, 100.0F}) {  // 2.42 m/s in DN 40 at 200 L/min
-    t.project.PipeFlow[1] = flow;
-    t.project.maxVel = 2.5F;
-    ChoosePipeSize(t.session, 1);
+    project.PipeFlow[1] = flow;
+    project.maxVel = 2.5F;
+    ChoosePipeSize(session, 1);
   }
-  EXPECT_EQ(t.project.PipeSize[1], 50);
-  EXPECT_EQ(t.project.SizedCount, 1);
-  EXPECT_FLOAT_EQ(t.project.PipeEqLength[1], 10.5F);  // with the welded elbow of this size
+  EXPECT_EQ(project.PipeSize[1], 50);
+  EXPECT_EQ(project.SizedCount, 1);
+  EXPECT_FLOAT_EQ(project.PipeEqLength[1], 10.5F);  // with the welded elbow of this size
 
   // A trial of a smaller size leaves its loss behind when the size stays.
-  SizeByGradient(t.project, 50.0F);
-  ChoosePipeSize(t.session, 1);
-  EXPECT_EQ(t.project.PipeSize[1], 50);
-  EXPECT_NEAR(t.project.PipeStartPressure[1], LossOf(1.0, 41.9, 11.0), 1E-10);
+  SizeByGradient(project, 50.0F);
+  ChoosePipeSize(session, 1);
+  EXPECT_EQ(project.PipeSize[1], 50);
+  EXPECT_NEAR(project.PipeStartPressure[1], LossOf(1.0, 41.9, 11.0), 1E-10);
 }
 
 // Heads 12 m and 30 m from the source, and the second one's pipe unsized.
-struct TwoHeads : OneUnsizedPipe {
-  TwoHeads() {
+struct UnsizedPipes : PipeSizing {
+  UnsizedPipes() {
     MadeNetwork network(project);
     project.PipeUnsized[1] = project.PipeCount = 0;
     network.Pipe(1, 2, 1, 10.0F);
@@ -115,9 +102,8 @@ struct TwoHeads : OneUnsizedPipe {
   }
 };
 
-TEST(SizingFormTest, ShowsTheSystem) {
-  TwoHeads t;
-  const SizingForm form(t.session);
+TEST_F(UnsizedPipes, ShowsTheSystem) {
+  const SizingForm form(session);
   EXPECT_EQ(form.lblUnsized, "Number of unsized pipes   = 1");
   EXPECT_EQ(form.lblSized, "   Number of sized pipes   = 2");
   EXPECT_EQ(form.lblFurthest, "Furthest head node = 4 = 30.000 m");
@@ -127,7 +113,7 @@ TEST(SizingFormTest, ShowsTheSystem) {
   EXPECT_EQ(form.otEnabled, (std::array{true, false, false, true}));
 }
 
-TEST(SizingFormTest, KeepsWhatIsEnteredWithinBounds) {
+TEST_F(UnsizedPipes, KeepsWhatIsEnteredWithinBounds) {
   const struct {
     int method;
     const char *limit, *nominal;
@@ -138,56 +124,54 @@ TEST(SizingFormTest, KeepsWhatIsEnteredWithinBounds) {
       {3, "0.1", "25", 0.5F, 25.0F}, {3, "60", "25", 50.0F, 25.0F},
   };
   for (const auto& c : cases) {
-    TwoHeads t;
-    SizingForm form(t.session);
+    commands.checks.clear();
+    SizingForm form(session);
     if (c.method == 2) form.Option2_Click();
     if (c.method == 3) form.Option3_Click();
     form.ot.at(static_cast<std::size_t>(c.method) - 1) = c.limit;
     form.ot[3] = c.nominal;
     form.OK_Click();
-    const std::array kept{t.project.maxVel, t.project.SizingPdPerM, t.project.SizingTotalDrop};
-    EXPECT_EQ(t.project.SizingMethod, c.method);
+    const std::array kept{project.maxVel, project.SizingPdPerM, project.SizingTotalDrop};
+    EXPECT_EQ(project.SizingMethod, c.method);
     EXPECT_EQ(kept.at(static_cast<std::size_t>(c.method) - 1), c.limit_kept) << c.limit;
-    EXPECT_EQ(t.project.SizingMinNominal, c.nominal_kept) << c.nominal;
+    EXPECT_EQ(project.SizingMinNominal, c.nominal_kept) << c.nominal;
     if (c.method == 3) {
-      EXPECT_FLOAT_EQ(t.project.SizingLimit, c.limit_kept * 1000.0F / 30.0F);
+      EXPECT_FLOAT_EQ(project.SizingLimit, c.limit_kept * 1000.0F / 30.0F);
     }
     EXPECT_TRUE(form.Accepted());
-    EXPECT_EQ(t.commands.checks, std::vector{CheckMode::kKeepLines});
+    EXPECT_EQ(commands.checks, std::vector{CheckMode::kKeepLines});
   }
 }
 
-TEST(UnsizedPipesTest, ZeroesAllSizesOnOk) {
-  TwoHeads t;
-  t.commands.on_compose = [&](int pipe) { EXPECT_EQ(t.project.PipeSize[pipe], 0); };
-  t.dialogs.answers = {Answer::kCancel, Answer::kOk, Answer::kOk};
-  SizingForm form(t.session);
+TEST_F(UnsizedPipes, ZeroesAllSizesOnOk) {
+  commands.on_compose = [&](int pipe) { EXPECT_EQ(project.PipeSize[pipe], 0); };
+  dialogs.answers = {Answer::kCancel, Answer::kOk, Answer::kOk};
+  SizingForm form(session);
   form.cmdZeroPipes_Click();
-  EXPECT_TRUE(t.commands.composed.empty());
+  EXPECT_TRUE(commands.composed.empty());
   form.cmdZeroPipes_Click();
-  EXPECT_EQ(t.commands.composed, (std::vector{1, 2, 3}));
-  EXPECT_EQ(t.shell.panels[Panel::kHint], "All pipe size set to 0 mm");
+  EXPECT_EQ(commands.composed, (std::vector{1, 2, 3}));
+  EXPECT_EQ(shell.panels[Panel::kHint], "All pipe size set to 0 mm");
   EXPECT_EQ(form.lblUnsized, "Number of unsized pipes   = 3");
-  EXPECT_TRUE(t.commands.checks.empty());
+  EXPECT_TRUE(commands.checks.empty());
 
-  mnuCalcZeroPipe_Click(t.session);
-  EXPECT_EQ(t.shell.panels[Panel::kHint], "All pipes set to 0 mm");
-  EXPECT_EQ(t.commands.checks.size(), 1U);
-  EXPECT_GT(t.project.DataChanged, 0);
+  mnuCalcZeroPipe_Click(session);
+  EXPECT_EQ(shell.panels[Panel::kHint], "All pipes set to 0 mm");
+  EXPECT_EQ(commands.checks.size(), 1U);
+  EXPECT_GT(project.DataChanged, 0);
 }
 
-TEST(UnsizedPipesTest, CapturesTheChosenSizesOnYes) {
-  TwoHeads t;
-  t.dialogs.answers = {Answer::kNo, Answer::kYes};
-  mnuCalcSetPipe_Click(t.session);
-  EXPECT_TRUE(t.commands.composed.empty());
-  mnuCalcSetPipe_Click(t.session);
-  EXPECT_EQ(t.commands.composed, std::vector{3});
-  EXPECT_EQ(t.shell.panels[Panel::kHint], "Auto Pipe Size - Unsized pipes captured");
-  t.project.UnsizedCount = 0;
-  mnuCalcSetPipe_Click(t.session);
-  EXPECT_EQ(t.dialogs.messages.back().text, "You do not have any unsized pipes in this project");
+TEST_F(UnsizedPipes, CapturesTheChosenSizesOnYes) {
+  dialogs.answers = {Answer::kNo, Answer::kYes};
+  mnuCalcSetPipe_Click(session);
+  EXPECT_TRUE(commands.composed.empty());
+  mnuCalcSetPipe_Click(session);
+  EXPECT_EQ(commands.composed, std::vector{3});
+  EXPECT_EQ(shell.panels[Panel::kHint], "Auto Pipe Size - Unsized pipes captured");
+  project.UnsizedCount = 0;
+  mnuCalcSetPipe_Click(session);
+  EXPECT_EQ(dialogs.messages.back().text, "You do not have any unsized pipes in this project");
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

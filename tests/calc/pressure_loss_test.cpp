@@ -1,20 +1,20 @@
-#include "calc/pressure_loss.h"
-
+// What a pipe loses, and the fluid and the friction behind it.
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <functional>
 #include <numbers>
+#include <string>
+#include <tuple>
 #include <utility>
 
 #include "calc/fluid.h"
+#include "calc/friction_factor.h"
+#include "calc/friction_table.h"
+#include "calc/pressure_loss.h"
 #include "made_network.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::LossOf;
-using test::MadeNetwork;
 
 constexpr int kSize50 = 3;
 constexpr int kSize350 = 6;
@@ -30,13 +30,7 @@ struct OnePipe {
 };
 
 TEST(EquivalentLengthTest, AddsUpWhatThePipeHolds) {
-  struct Case {
-    const char* what;
-    std::function<void(Project&)> set;
-    int size;
-    float length;
-  };
-  const Case cases[] = {
+  const std::tuple<const char*, void (*)(Project&), int, float> cases[] = {
       {"elbows", [](Project& p) { p.PipeElbows[1] = 2; }, kSize50, 15.0F},
       {"welded from the size itself up", [](Project& p) { p.PipeElbows[1] = 2, p.WeldSize = 50; },
        kSize50, 14.0F},
@@ -52,13 +46,12 @@ TEST(EquivalentLengthTest, AddsUpWhatThePipeHolds) {
        kSize350, 13.0F},
       {"dry", [](Project& p) { p.DrySystem = 1; }, kSize50, 10.0F + 3.0F * 0.714F},
       {"dry from a later pipe", [](Project& p) { p.DrySystem = 1, p.DryFromPipe = 2; }, kSize50,
-       13.0F},
-  };
-  for (const Case& c : cases) {
+       13.0F}};
+  for (const auto& [what, change, size, length] : cases) {
     OnePipe one;
-    c.set(one.project);
-    EquivalentLength(one.project, 1, c.size);
-    EXPECT_NEAR(one.project.PipeEqLength[1], c.length, 1e-5F) << c.what;
+    change(one.project);
+    EquivalentLength(one.project, 1, size);
+    EXPECT_NEAR(one.project.PipeEqLength[1], length, 1e-5F) << what;
   }
 }
 
@@ -84,10 +77,8 @@ double DarcyLossOf(double f, double flow, double length) {
 
 TEST(PipeDropTest, FollowsTheFlow) {
   struct Case {
-    const char* what;
-    const char* fluid;
-    float roughness;
-    float flow, orifice, added_drop;
+    const char *what, *fluid;
+    float roughness, flow, orifice, added_drop;
     double drop;
   };
   const double loss = LossOf(300.0, 53.1, 13.0);
@@ -105,8 +96,7 @@ TEST(PipeDropTest, FollowsTheFlow) {
       {"formula at its least Re", "DWF", 0.046F, 20, 0, 0, DarcyLossOf(0.02446, 20, 13)},
       {"table", "NFPA 750", 0.00531F, 300, 0, 0, DarcyLossOf(0.01820, 300, 13)},  // e = 0.0001
       {"table at its least Re", "NFPA 750", 0.00531F, 5, 0, 0, DarcyLossOf(0.03985, 5, 13)},
-      {"table, at rest", "NFPA 750", 0.00531F, 0, 0, 0.25F, 0.0},
-  };
+      {"table, at rest", "NFPA 750", 0.00531F, 0, 0, 0.25F, 0.0}};
   for (const Case& c : cases) {
     OnePipe one;
     ItemText(one.project, Item::kFluid) = c.fluid;
@@ -121,5 +111,66 @@ TEST(PipeDropTest, FollowsTheFlow) {
   }
 }
 
+// The implicit equation of Colebrook and White, solved by iteration.
+double ColebrookFactor(double relative_roughness, double reynolds) {
+  double root = 7.0;  // 1 / sqrt(f)
+  for (int i = 0; i < 100; ++i) {
+    root = -2.0 * std::log10(relative_roughness / 3.7 + 2.51 * root / reynolds);
+  }
+  return 1.0 / (root * root);
+}
+
+TEST(FrictionFactorTest, AgreesWithColebrook) {
+  for (const double roughness : {0.0, 1e-5, 1e-4, 1e-3, 1e-2}) {
+    for (const double reynolds : {4e4, 1e5, 1e6, 1e7}) {
+      const double ratio =
+          FrictionFactor(roughness, reynolds) / ColebrookFactor(roughness, reynolds);
+      EXPECT_NEAR(ratio, 1.0, 5e-5) << roughness << ' ' << reynolds;
+    }
+  }
+}
+
+TEST(FrictionTableTest, InterpolatesBetweenFourCells) {
+  const std::tuple<const char*, double, double, double> cases[] = {
+      {"a cell itself", 4e-5, 4e5, 0.0142},
+      {"the middle of four cells", 3e-5, 3e5, (0.01565 + 0.0141) / 2.0},
+      {"the lowest Reynolds number", 4e-5, 4100.0, 0.0400 - 0.0090 * 100.0 / 6000.0},
+      {"rougher than the last column", 4e-4, 1e6, 0.0136 + 3.0 * 0.0011},
+      {"faster than the last row", 1e-5, 1.9e8, 0.0080 - 0.0010},
+      {"smoother than the first column", 0.5e-8, 2e5, (200000.0 + 0.0155) / 2.0}};
+  for (const auto& [what, roughness, reynolds, factor] : cases) {
+    EXPECT_NEAR(MoodyTable().Interpolate(roughness, reynolds) / factor, 1.0, 1e-6) << what;
+  }
+}
+
+TEST(FluidTest, TakesTheSettingsFromTheFluidText) {
+  struct Case {
+    std::string fluid;
+    int model;
+    float density, viscosity, sg;
+    int dry, from_pipe;
+  };
+  const Case cases[] = {
+      {"NFPA 750", kDarcyByTable, 998.0F, 0.95F, 1.0F, 0, 0},
+      {"DWF dens=999.7 VISC=1.3 750", kDarcyByFormula, 999.7F, 1.3F, 1.0F, 0, 0},
+      {"dwf foam sg=1.06", kHazenWilliams, 998.0F, 0.95F, 1.06F, 0, 0},
+      {"Dry #12 SG=.98 SG=2", kHazenWilliams, 998.0F, 0.95F, 0.98F, 1, 12},
+      {"SG 1.1", kHazenWilliams, 998.0F, 0.95F, 1.0F, 0, 0},      // no sign of assignment
+      {"SGX SG=1.1", kHazenWilliams, 998.0F, 0.95F, 1.0F, 0, 0},  // none in the first word
+      {"SG=1.1kg", kHazenWilliams, 998.0F, 0.95F, 1.0F, 0, 0},    // no number
+      {"SG= 1.1", kHazenWilliams, 998.0F, 0.95F, 0.0F, 0, 0}};    // nothing is 0
+  for (const Case& c : cases) {
+    Project project;
+    ItemText(project, Item::kFluid) = c.fluid;
+    ReadFluidSettings(project);
+    EXPECT_EQ(project.LossModel, c.model) << c.fluid;
+    EXPECT_EQ(project.FluidDensity, c.density) << c.fluid;
+    EXPECT_EQ(project.FluidViscosity, c.viscosity) << c.fluid;
+    EXPECT_EQ(project.FluidSG, c.sg) << c.fluid;
+    EXPECT_EQ(project.DrySystem, c.dry) << c.fluid;
+    EXPECT_EQ(project.DryFromPipe, c.from_pipe) << c.fluid;
+  }
+}
+
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

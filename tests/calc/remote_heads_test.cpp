@@ -4,24 +4,21 @@
 
 #include <algorithm>
 #include <array>
-#include <functional>
-#include <string>
+#include <utility>
 
 #include "calc/design_area.h"
 #include "calc/four_heads.h"
 #include "made_network.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::MadeNetwork;
 
 using Four = std::array<int, 4>;
 
 // Nine heads in rows of three, 3 m apart, on 9 m2 each; slot 5 at (3, 3) is the remotest. All give
 // 50 L/min but that one with 45 and slot 9 at (6, 6) with 40. Head n stands at node 10 + n.
-struct NineHeads : test::TestSession {
+struct NineHeads : TestSession {
   explicit NineHeads(float spacing = 3.0F) {
     MadeNetwork network(project);
     for (int head = 1; head <= 9; ++head) {
@@ -44,60 +41,55 @@ struct NineHeads : test::TestSession {
     SearchRemoteHeads(session);
     return {project.MrHead1, project.MrHead2, project.MrHead3, project.MrHead4};
   }
-
-  Project& project = session.project;
 };
 
-TEST(RemoteHeadsTest, TakesTheCornerOfLeastDensity) {
-  NineHeads t;
-  t.project.ZOffset = -2.0F;
-  EXPECT_EQ(t.Find(), (Four{9, 6, 5, 8}));  // at 45, 123.7, 225 and 326.3 degrees from (4.2, 4.2)
-  EXPECT_EQ(t.project.MrNode1, 19);
-  EXPECT_EQ(t.project.MrNode4, 18);
-  EXPECT_FLOAT_EQ(t.project.MrFlow, 185.0F);
-  EXPECT_FLOAT_EQ(t.project.MrArea, 9.0F);
-  EXPECT_FLOAT_EQ(t.project.MrDensity, 185.0F / 9.0F / 4.0F);
-  EXPECT_FLOAT_EQ(t.project.MrRequiredDensity, 5.0F);
-  EXPECT_FLOAT_EQ(t.project.MrAreaAverage, 9.0F);
-  EXPECT_EQ(t.project.LeastDensityHead, 9);
-  EXPECT_EQ(t.project.RemotestHead, 9);
-  EXPECT_EQ(t.project.RemotestNode, 19);
-  EXPECT_EQ(t.project.ZOffset, 0.0F);
-  EXPECT_TRUE(t.dialogs.messages.empty());
+struct RemoteHeads : testing::Test, NineHeads {};
+
+TEST_F(RemoteHeads, TakesTheCornerOfLeastDensity) {
+  project.ZOffset = -2.0F;
+  EXPECT_EQ(Find(), (Four{9, 6, 5, 8}));  // at 45, 123.7, 225 and 326.3 degrees from (4.2, 4.2)
+  EXPECT_EQ(project.MrNode1, 19);
+  EXPECT_EQ(project.MrNode4, 18);
+  EXPECT_FLOAT_EQ(project.MrFlow, 185.0F);
+  EXPECT_FLOAT_EQ(project.MrArea, 9.0F);
+  EXPECT_FLOAT_EQ(project.MrDensity, 185.0F / 9.0F / 4.0F);
+  EXPECT_FLOAT_EQ(project.MrRequiredDensity, 5.0F);
+  EXPECT_FLOAT_EQ(project.MrAreaAverage, 9.0F);
+  EXPECT_EQ(project.LeastDensityHead, 9);
+  EXPECT_EQ(project.RemotestHead, 9);
+  EXPECT_EQ(project.RemotestNode, 19);
+  EXPECT_EQ(project.ZOffset, 0.0F);
+  EXPECT_TRUE(dialogs.messages.empty());
 }
 
-TEST(RemoteHeadsTest, GoesAroundTheHeadThatTheUserChose) {
-  NineHeads t;
-  t.project.ChosenMrHead = 1;
-  EXPECT_EQ(t.Find(), (Four{5, 2, 1, 4}));
-  EXPECT_FLOAT_EQ(t.project.MrFlow, 195.0F);
-  EXPECT_EQ(t.project.RemotestHead, 5);
+TEST_F(RemoteHeads, GoesAroundTheHeadThatTheUserChose) {
+  project.ChosenMrHead = 1;
+  EXPECT_EQ(Find(), (Four{5, 2, 1, 4}));
+  EXPECT_FLOAT_EQ(project.MrFlow, 195.0F);
+  EXPECT_EQ(project.RemotestHead, 5);
 }
 
-struct Change {
-  const char* what;
-  std::function<void(Project&)> apply;
-};
+using Changes = std::pair<const char*, void (*)(Project&)>;
 
 TEST(RemoteHeadsTest, LeavesOutHeadsThatAreOffAndAddedBuildings) {
-  const Change changes[] = {{"off",
-                             [](Project& p) {
-                               p.SelectedHeadsMode = 1;
-                               p.SelectedHeadCount = 8;
-                               for (int head = 1; head <= 8; ++head) p.HeadOn[head] = 1;
-                             }},
-                            {"building", [](Project& p) { p.HeadCode[9] = -1.0F; }},
-                            {"no area", [](Project& p) { p.HeadArea[9] = 0.4F; }}};
-  for (const Change& change : changes) {
+  const Changes cases[] = {{"off",
+                            [](Project& p) {
+                              p.SelectedHeadsMode = 1;
+                              p.SelectedHeadCount = 8;
+                              for (int head = 1; head <= 8; ++head) p.HeadOn[head] = 1;
+                            }},
+                           {"building", [](Project& p) { p.HeadCode[9] = -1.0F; }},
+                           {"no area", [](Project& p) { p.HeadArea[9] = 0.4F; }}};
+  for (const auto& [what, change] : cases) {
     NineHeads t;
-    change.apply(t.project);
-    EXPECT_EQ(std::ranges::count(t.Find(), 9), 0) << change.what;
-    EXPECT_GT(t.project.MrDensity, 0.0F) << change.what;
+    change(t.project);
+    EXPECT_EQ(std::ranges::count(t.Find(), 9), 0) << what;
+    EXPECT_GT(t.project.MrDensity, 0.0F) << what;
   }
 }
 
 TEST(RemoteHeadsTest, IsSkippedWithoutForgettingTheRemotestHead) {
-  const Change changes[] = {
+  const Changes cases[] = {
       {"residential", [](Project& p) { ItemText(p, Item::kAuthority) = "BS 9251 : Homes"; }},
       {"option", [](Project& p) { ItemText(p, Item::kInstallation) = "1 -4mrh"; }},
       {"three heads", [](Project& p) { p.HeadCount = 3; }},
@@ -106,12 +98,12 @@ TEST(RemoteHeadsTest, IsSkippedWithoutForgettingTheRemotestHead) {
       {"three picked", [](Project& p) { p.SelectedHeadsMode = 1, p.SelectedHeadCount = 3; }},
       {"building in the middle", [](Project& p) { p.HeadCode[5] = -1.0F; }},
       {"not wanted", [](Project& p) { p.MrNodeText = " 0"; }}};
-  for (const Change& change : changes) {
+  for (const auto& [what, change] : cases) {
     NineHeads t;
-    change.apply(t.project);
-    EXPECT_EQ(t.Find(), Four{}) << change.what;
-    EXPECT_EQ(t.project.MrDensity, 0.0F) << change.what;
-    EXPECT_EQ(t.project.RemotestHead, 5) << change.what;
+    change(t.project);
+    EXPECT_EQ(t.Find(), Four{}) << what;
+    EXPECT_EQ(t.project.MrDensity, 0.0F) << what;
+    EXPECT_EQ(t.project.RemotestHead, 5) << what;
   }
 }
 
@@ -124,27 +116,25 @@ TEST(RemoteHeadsTest, FindsNothingAmongHeadsTooFarApartOrTooClose) {
   }
 }
 
-TEST(RemoteHeadsTest, TellsWhenTheSearchFails) {
-  NineHeads t;
-  t.project.RemotestHead = kLastHead + 1;
-  t.Find();
-  ASSERT_EQ(t.dialogs.messages.size(), 1U);
-  EXPECT_EQ(t.dialogs.messages[0].text, "Cannot determine 4 remotest heads");
+TEST_F(RemoteHeads, TellsWhenTheSearchFails) {
+  project.RemotestHead = kLastHead + 1;
+  Find();
+  ASSERT_EQ(dialogs.messages.size(), 1U);
+  EXPECT_EQ(dialogs.messages[0].text, "Cannot determine 4 remotest heads");
 }
 
-TEST(RemoteHeadsTest, WarnsOfLowDensity) {
-  NineHeads t;
-  for (int head = 1; head <= 9; ++head) t.project.HeadDensity[head] = 5.25F;
-  t.Find();
-  ASSERT_EQ(t.dialogs.messages.size(), 1U);
-  EXPECT_EQ(t.dialogs.messages[0].title,
+TEST_F(RemoteHeads, WarnsOfLowDensity) {
+  for (int head = 1; head <= 9; ++head) project.HeadDensity[head] = 5.25F;
+  Find();
+  ASSERT_EQ(dialogs.messages.size(), 1U);
+  EXPECT_EQ(dialogs.messages[0].title,
             "Actual density of coverage is 5.14 mm/min over 4 most remotest heads");
-  EXPECT_TRUE(t.dialogs.messages[0].text.starts_with(
+  EXPECT_TRUE(dialogs.messages[0].text.starts_with(
       "Total area of head node numbers 19 16 15 18 divided by 4 only comes to 9.000 sq.m. but is "
       "actually 9.000 sq.m in plan view and so the density over the four most remotest heads is "
       "5.14 mm/min and not the 5.25 mm/min specified.\r\n"
       "Check you have the right lengths"))
-      << t.dialogs.messages[0].text;
+      << dialogs.messages[0].text;
 }
 
 // Four heads 2 m north, south, east and west of a point. At the edge of the radius a head counts.
@@ -180,8 +170,8 @@ TEST(FourHeadSearchTest, OrdersHeadsByBearing) {
 
 // A range of DN 40, pipes 2 to 5, between two mains, with the head at the end of pipe 3; pipe 7
 // drops from there with the head's flow.
-struct Range {
-  Range() {
+struct DesignArea : testing::Test {
+  DesignArea() {
     MadeNetwork network(project);
     const struct {
       int start, end, size;
@@ -200,7 +190,7 @@ struct Range {
   Project project;
 };
 
-TEST(DesignAreaTest, FindsTheFlowsAtBothEndsOfTheRange) {
+TEST_F(DesignArea, FindsTheFlowsAtBothEndsOfTheRange) {
   const struct {
     const char* what;
     int loops, head_pipe, pipe_in_loop;
@@ -210,32 +200,29 @@ TEST(DesignAreaTest, FindsTheFlowsAtBothEndsOfTheRange) {
                {"below the range, in no loop", 4, 7, 5, 0, 0},
                {"too few loops", 3, 3, 5, 0, 0}};
   for (const auto& c : cases) {
-    Range range;
-    range.project.LoopCount = c.loops;
-    range.project.HeadPipe[1] = static_cast<float>(c.head_pipe);
-    range.project.LoopPipes[1] = c.pipe_in_loop;
-    FindDesignAreaFlows(range.project, 1);
-    EXPECT_EQ(range.project.AmaoFlowA, c.flow_a) << c.what;
-    EXPECT_EQ(range.project.AmaoFlowB, c.flow_b) << c.what;
-    EXPECT_EQ(range.project.AmaoDifference, c.flow_a - c.flow_b) << c.what;
+    project.AmaoFlowA = project.AmaoFlowB = project.AmaoDifference = 0.0F;
+    project.LoopCount = c.loops;
+    project.HeadPipe[1] = static_cast<float>(c.head_pipe);
+    project.LoopPipes[1] = c.pipe_in_loop;
+    FindDesignAreaFlows(project, 1);
+    EXPECT_EQ(project.AmaoFlowA, c.flow_a) << c.what;
+    EXPECT_EQ(project.AmaoFlowB, c.flow_b) << c.what;
+    EXPECT_EQ(project.AmaoDifference, c.flow_a - c.flow_b) << c.what;
   }
 }
 
-TEST(DesignAreaTest, GradesTheDifference) {
-  const struct {
-    float difference;
-    const char* grade;
-  } cases[] = {{15.0F, "This is certainly the correct AMAO"},
-               {15.01F, "This may not be the right AMAO - try moving heads"},
-               {29.99F, "This may not be the right AMAO - try moving heads"},
-               {30.0F, ""},
-               {30.01F, "Unlikely to be the right AMAO - try moving heads"}};
-  Range range;
-  for (const auto& c : cases) {
-    range.project.AmaoDifference = c.difference;
-    EXPECT_EQ(DesignAreaGrade(range.project), c.grade) << c.difference;
+TEST_F(DesignArea, GradesTheDifference) {
+  const std::pair<float, const char*> cases[] = {
+      {15.0F, "This is certainly the correct AMAO"},
+      {15.01F, "This may not be the right AMAO - try moving heads"},
+      {29.99F, "This may not be the right AMAO - try moving heads"},
+      {30.0F, ""},
+      {30.01F, "Unlikely to be the right AMAO - try moving heads"}};
+  for (const auto& [difference, grade] : cases) {
+    project.AmaoDifference = difference;
+    EXPECT_EQ(DesignAreaGrade(project), grade) << difference;
   }
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

@@ -2,6 +2,7 @@
 
 #include "project/fault_report.h"
 #include "services/text.h"
+#include "support/project_text.h"
 
 namespace zeb::test {
 namespace {
@@ -29,43 +30,24 @@ constexpr const char* kPipeData =
     "0,0,1,1,2\r\n"
     "5,6,10,15,20\r\n";
 
-const std::vector<std::string>& Items() {
-  static const std::vector<std::string> items = {"Test job",
-                                                 "---",
-                                                 "---",
-                                                 "---",
-                                                 "EN 12845 Rules",
-                                                 "---",
-                                                 "Water",
-                                                 "65",
-                                                 "test.pdt",
-                                                 "None",
-                                                 "Most Unfavourable",
-                                                 "1",
-                                                 "OH3",
-                                                 "5.00",
-                                                 "72",
-                                                 "---",
-                                                 "---",
-                                                 "---"};
-  return items;
-}
-
-const std::vector<std::string>& HeadCodes() {
-  static const std::vector<std::string> codes = {
-      "01 15.0  80.00   0.50 STD1    ", "02 10.0  57.00   0.35 LIGHT   ",
-      "03 20.0   0.00   0.50 ZERO    ", "04 20.0 242.00   0.60 LARGE   "};
-  return codes;
-}
+constexpr const char* kItems =
+    "Test job|---|---|---|EN 12845 Rules|---|Water|65|test.pdt|None|Most "
+    "Unfavourable|1|OH3|5.00|72|"
+    "---|---|---";
 
 }  // namespace
 
+void AddPipe(std::string& lines, int start, int end, const std::string& rest) {
+  if (!lines.empty()) lines += " / ";
+  lines += std::to_string(start) + ' ' + std::to_string(end) + rest;
+}
+
 CheckFixture::CheckFixture() {
   files.Put(session.folders.PdtFolder + "/TEST.PDT", kPipeData);
-  for (int item = 1; item <= kItemCount; ++item) project.PipeLines[item] = Items().at(item - 1);
-  for (const std::string& code : HeadCodes()) {
-    project.HeadCodeCount += 1;
-    project.HeadCodeLines[project.HeadCodeCount] = code;
+  SetLines(project, Split(kItems, "|"));
+  for (const char* code : {"01 15.0  80.00   0.50 STD1    ", "02 10.0  57.00   0.35 LIGHT   ",
+                           "03 20.0   0.00   0.50 ZERO    ", "04 20.0 242.00   0.60 LARGE   "}) {
+    project.HeadCodeLines[++project.HeadCodeCount] = code;
   }
   project.ProjectPath = "[Untitled]";
   project.MaxPipes = 5019;
@@ -78,14 +60,9 @@ CheckFixture::CheckFixture() {
 }
 
 void CheckFixture::Check(const std::string& pipe_lines, CheckMode mode) {
-  int line = kItemCount;
-  for (const std::string& text : Split(pipe_lines, " / ")) project.PipeLines[++line] = text;
-  project.PipeLines[++line] = "END";
-  project.LineCount = line;
+  SetLines(project, Split(pipe_lines + " / END", " / "), kFirstPipeLine);
   CheckProject(session, mode);
 }
-
-std::vector<std::string> CheckFixture::Warnings() const { return SplitLines(project.WarningText); }
 
 std::vector<int> CheckFixture::FaultNumbers() const {
   std::vector<int> numbers;

@@ -1,5 +1,10 @@
+#include <tuple>
+#include <utility>
+
 #include "check_fixture.h"
 #include "project/fault_report.h"
+#include "services/text.h"
+#include "support/slots.h"
 
 namespace zeb::test {
 namespace {
@@ -9,10 +14,7 @@ using CheckRunning = CheckFixture;
 // Pipes one behind the other.
 std::string RunOf(int pipes, const std::string& rest) {
   std::string lines;
-  for (int node = 1; node <= pipes; ++node) {
-    if (node > 1) lines += " / ";
-    lines += std::to_string(node) + ' ' + std::to_string(node + 1) + rest;
-  }
+  for (int node = 1; node <= pipes; ++node) AddPipe(lines, node, node + 1, rest);
   return lines;
 }
 
@@ -27,8 +29,9 @@ TEST_F(CheckRunning, ACleanCheckLeavesTheProjectChecked) {
   EXPECT_EQ(project.PipeSizeAsRead[2], 50);
   EXPECT_EQ(project.PipeSizeIndexAsRead[2], 3);
   EXPECT_EQ(project.PipeMark[2], -6666);
-  EXPECT_EQ(project.HeadCodeLines[1], "01 15.0  80.00   0.50 STD1        /JOBS/A.ZEB");
-  EXPECT_EQ(project.HeadCodeLines[2], "02 10.0  57.00   0.35 LIGHT   ");
+  EXPECT_EQ(
+      Slots(project.HeadCodeLines, 1, 2),
+      (Texts{"01 15.0  80.00   0.50 STD1        /JOBS/A.ZEB", "02 10.0  57.00   0.35 LIGHT   "}));
   EXPECT_EQ(project.MinHeadCode, 1);
   EXPECT_EQ(project.MaxHeadCode, 1);
   EXPECT_EQ(shell.panels[Panel::kHint], "End of checking /JOBS/A.ZEB");
@@ -75,15 +78,13 @@ TEST_F(CheckRunning, HeadsAndDischarges) {
       "50 3 N 1 0 2 9");
   EXPECT_EQ(project.HeadCount, 4);
   EXPECT_EQ(project.HeadArea[1], 0.0F);
-  EXPECT_EQ(project.HeadDensity[1], 0.0F);
+  EXPECT_EQ(Slots(project.HeadDensity, 1, 3), (std::vector{0.0F, 8.0F, 0.0F}));
   EXPECT_EQ(project.HeadCode[2], -1.0F);
   EXPECT_EQ(project.HeadK[2], 100.0F);  // 200 / root 4
   EXPECT_EQ(project.HeadStartPressure[2], 4.0F);
-  EXPECT_EQ(project.HeadDensity[2], 8.0F);
   EXPECT_EQ(project.PipeHead[2], 2);
   EXPECT_EQ(project.PipeABFlow[3], 10.0F);
   EXPECT_EQ(project.PipeABPress[3], 0.1F);
-  EXPECT_EQ(project.HeadDensity[3], 0.0F);  // the area is not above 1
   EXPECT_EQ(project.HeadK[4], 57.0F);
   EXPECT_EQ(project.HeadOrifice[4], 10.0F);
   EXPECT_EQ(project.TotalHeadArea, 35.0F);
@@ -92,15 +93,11 @@ TEST_F(CheckRunning, HeadsAndDischarges) {
 }
 
 TEST_F(CheckRunning, LargeHeadsWatchTheirAreas) {
-  struct AreaCase {
-    const char* first;
-    const char* second;
-    int state;
-  };
-  for (const AreaCase& areas : {AreaCase{"9.3", "7.4", 0}, AreaCase{"9", "7.3", 1},
-                                AreaCase{"9", "9.4", 2}, AreaCase{"3", "7.3", 0}}) {
-    Check(std::string("1 2 50 3 N 1 0 4 ") + areas.first + " / 2 3 50 3 N 1 0 4 " + areas.second);
-    EXPECT_EQ(project.HeadAreaState, areas.state) << areas.second;
+  const std::tuple<std::string, std::string, int> cases[] = {
+      {"9.3", "7.4", 0}, {"9", "7.3", 1}, {"9", "9.4", 2}, {"3", "7.3", 0}};
+  for (const auto& [first, second, state] : cases) {
+    Check("1 2 50 3 N 1 0 4 " + first + " / 2 3 50 3 N 1 0 4 " + second);
+    EXPECT_EQ(project.HeadAreaState, state) << second;
   }
 }
 
@@ -110,7 +107,7 @@ TEST_F(CheckRunning, StoppingAtABoxOpensTheProjectData) {
   EXPECT_EQ(captions.size(), 2U);
   EXPECT_EQ(project.ModelState, 1);
   EXPECT_EQ(project.PipeCount, 0);
-  EXPECT_EQ(shell.modal_forms, (std::vector<std::string>{"ZEBF04", "ZEBF04", "ZEBF02"}));
+  EXPECT_EQ(shell.modal_forms, (Texts{"ZEBF04", "ZEBF04", "ZEBF02"}));
   EXPECT_EQ(project.PipeLines[20], "2 3 50 3 Q");
   EXPECT_EQ(shell.redraws, 1);
   EXPECT_TRUE(shell.features[Feature::kDrawMenu]);
@@ -132,25 +129,20 @@ TEST_F(CheckRunning, BoxesCanBeSuppressed) {
 }
 
 TEST_F(CheckRunning, AFailureEndsThePass) {
-  struct FailureCase {
-    const char* line;
-    const char* title;
-  };
-  for (const FailureCase& failing :
-       {FailureCase{"99999 3 50 3 N", "Error 6 at line 20 in reading in pipes part"},
-        FailureCase{"2 3 50 1e39 N", "Error 6 at line 20 in reading in pipes part"},
-        FailureCase{"2 3 50 3 N VJ40000", "Error 6 at line 20 in reading in pipes part"},
-        FailureCase{"2 3 50 3 N 1 0 1 3e38", "Error 6 at line 60 in head details part"},
-        FailureCase{"2 3 50 3 N 1 21 1 9", "Error 9 at line 110 in extras part"}}) {
-    SCOPED_TRACE(failing.line);
+  const std::pair<std::string, std::string> cases[] = {
+      {"99999 3 50 3 N", "Error 6 at line 20 in reading in pipes part"},
+      {"2 3 50 1e39 N", "Error 6 at line 20 in reading in pipes part"},
+      {"2 3 50 3 N VJ40000", "Error 6 at line 20 in reading in pipes part"},
+      {"2 3 50 3 N 1 0 1 3e38", "Error 6 at line 60 in head details part"},
+      {"2 3 50 3 N 1 21 1 9", "Error 9 at line 110 in extras part"}};
+  for (const auto& [line, title] : cases) {
+    SCOPED_TRACE(line);
     SetItem(Item::kInstallation, "-AC");
     dialogs.messages.clear();
     project.CheckSummary.clear();
-    Check(std::string("1 2 50 3 N 1 0 1 3e38 / ") + failing.line);
-    ASSERT_EQ(dialogs.messages.size(), 1U);
-    EXPECT_EQ(dialogs.messages[0].title, failing.title);
-    EXPECT_EQ(dialogs.messages[0].text,
-              "Cannot check your job data - try getting a printout from EDIT");
+    Check("1 2 50 3 N 1 0 1 3e38 / " + line);
+    ASSERT_EQ(dialogs.Shown(),
+              (Boxes{{title, "Cannot check your job data - try getting a printout from EDIT"}}));
     EXPECT_EQ(dialogs.messages[0].icon, MessageIcon::kStop);
     EXPECT_EQ(project.ModelState, 1);
     EXPECT_EQ(project.CheckSummary, "");
@@ -161,7 +153,7 @@ TEST_F(CheckRunning, AFailureEndsThePass) {
 TEST_F(CheckRunning, AnUnknownAuthorityOrPipeDataEndTheCheck) {
   SetItem(Item::kAuthority, "Nobody's rules");
   Check("1 2 50 3 N");
-  EXPECT_EQ(dialogs.Titles(), std::vector<std::string>{"Error with design authority"});
+  EXPECT_EQ(dialogs.Titles(), Texts{"Error with design authority"});
   EXPECT_FALSE(shell.features[Feature::kEditMenu]);
   EXPECT_FALSE(shell.features[Feature::kToolBars]);
   EXPECT_EQ(shell.redraws, 0);
@@ -183,7 +175,7 @@ TEST_F(CheckRunning, FurtherHeadsTakeTheLastSlotAndTheModelIsTooLarge) {
   EXPECT_EQ(project.PipeHead[1559], 1559);
   EXPECT_EQ(project.HeadCodeUses[1], 1560.0F);
   ASSERT_EQ(dialogs.messages.size(), 1U);
-  EXPECT_NE(dialogs.messages[0].text.find("1559 heads, but the limit is 1500."), std::string::npos);
+  EXPECT_TRUE(Contains(dialogs.messages[0].text, "1559 heads, but the limit is 1500."));
   EXPECT_FALSE(shell.features[Feature::kAdd]);
   Check(RunOf(1500, " 50 1 N 1 0 1 9"));
   EXPECT_EQ(dialogs.messages.size(), 1U);

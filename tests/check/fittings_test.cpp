@@ -1,17 +1,16 @@
+#include <algorithm>
+#include <tuple>
+#include <utility>
+
 #include "check_fixture.h"
 
 namespace zeb::test {
 namespace {
 
-struct FittingsCase {
-  std::string lines;
-  std::vector<int> elbows;  // by pipe
-  std::vector<int> tees;
-};
-
 TEST_F(CheckFixture, FittingsFollowTheShape) {
   const std::string ring = "1 2 50 2 E / 2 3 50 3 N / 3 4 50 4 E / 2 5 50 4 E / ";
-  const FittingsCase cases[] = {
+  // The elbows and the tees of each pipe.
+  const std::tuple<std::string, std::vector<int>, std::vector<int>> cases[] = {
       // Straight on and nearly so, a bend, a riser.
       {"1 2 50 3 N / 2 3 50 3 N / 3 4 50 3 *60", {0, 0, 0}, {0, 0, 0}},
       {"1 2 50 3 N / 2 3 50 3 *60.1", {0, 1}, {0, 0}},
@@ -26,83 +25,60 @@ TEST_F(CheckFixture, FittingsFollowTheShape) {
       {ring + "5 4 50 3 N / 4 6 50 1 E", {0, 0, 1, 0, 1, 0}, {0, 1, 1, 0, 0, 1}},
       // Extras, which never take a count below none.
       {"1 2 50 3 N AE-1 / 2 3 50 3 E AE2 AT3 / 3 4 50 3 N AE-1", {0, 3, 0}, {0, 3, 0}}};
-  for (const FittingsCase& fittings : cases) {
-    SCOPED_TRACE(fittings.lines);
-    Check(fittings.lines, CheckMode::kSilent);
-    ASSERT_EQ(project.PipeCount, static_cast<int>(fittings.elbows.size()));
+  for (const auto& [lines, elbows, tees] : cases) {
+    SCOPED_TRACE(lines);
+    Check(lines, CheckMode::kSilent);
+    ASSERT_EQ(project.PipeCount, static_cast<int>(elbows.size()));
     for (int pipe = 1; pipe <= project.PipeCount; ++pipe) {
-      EXPECT_EQ(project.PipeElbows[pipe], fittings.elbows.at(pipe - 1)) << pipe;
-      EXPECT_EQ(project.PipeTees[pipe], fittings.tees.at(pipe - 1)) << pipe;
+      EXPECT_EQ(project.PipeElbows[pipe], elbows.at(pipe - 1)) << pipe;
+      EXPECT_EQ(project.PipeTees[pipe], tees.at(pipe - 1)) << pipe;
     }
   }
 }
 
-struct WarningCase {
-  int pipe;  // the marked one
-  int code;
-  CheckMode mode;
-  const char* lines;
-  std::vector<std::string> warnings;
-};
-
 TEST_F(CheckFixture, ShapesAndUsesAreWarnedOf) {
   constexpr CheckMode kKeep = CheckMode::kKeepLines;
   constexpr CheckMode kCompose = CheckMode::kComposeLines;
-  const WarningCase cases[] = {
-      {1,
-       12,
-       kKeep,
-       "1 2 50 3 N / 2 3 50 3 N / 2 4 50 3 E / 2 5 50 3 W / 2 6 50 3 U",
-       {"Node number 2 has been used 5 times"}},
-      {2, 13, kCompose, "1 2 50 3 N / 2 3 50 3 N", {"End node 3 used once is not a head"}},
-      {2, 0, kKeep, "1 2 50 3 N / 2 3 50 3 N", {}},
-      {2, 0, kCompose, "1 2 50 3 N / 2 3 50 3 N HY900", {}},
-      {2,
-       13,
-       kCompose,
-       "1 2 50 3 N / 2 3 25 3 N 1 3 1 9",
-       {"Pipe 2 3 = 25mm  Eq.len of VT 3 = 0m"}},
+  const struct {
+    int pipe, mark;
+    CheckMode mode;
+    const char *lines, *warnings;
+  } cases[] = {
+      {1, 12, kKeep, "1 2 50 3 N / 2 3 50 3 N / 2 4 50 3 E / 2 5 50 3 W / 2 6 50 3 U",
+       "Node number 2 has been used 5 times\r\n"},
+      {2, 13, kCompose, "1 2 50 3 N / 2 3 50 3 N", "End node 3 used once is not a head\r\n"},
+      {2, 0, kKeep, "1 2 50 3 N / 2 3 50 3 N", ""},
+      {2, 0, kCompose, "1 2 50 3 N / 2 3 50 3 N HY900", ""},
+      {2, 13, kCompose, "1 2 50 3 N / 2 3 25 3 N 1 3 1 9",
+       "Pipe 2 3 = 25mm  Eq.len of VT 3 = 0m\r\n"},
       // The mark goes to the last dead end.
-      {4,
-       13,
-       kCompose,
-       "1 2 100 3 N / 2 3 100 3 E HY900 / 2 4 100 3 N AE1 / 4 5 50 3 N 1 0 1 9",
-       {"Pipe 2 3 = 100mm  Eq.len of tees = 0m", "Pipe 2 4 = 100mm  Eq.len of elbows = 0m"}},
-      {1,
-       14,
-       kKeep,
-       "1 2 50 3 N / 2 3 50 3 E / 2 4 50 4 *90.4@0.4",
-       {"2 pipes from node 2 have the same direction"}},
-      {1, 0, kKeep, "1 2 50 3 N / 2 3 50 3 E / 2 4 50 4 *90.4@0.5", {}},
-      {2,
-       14,
-       kKeep,
-       "1 2 50 3 U 1 0 1 9 / 2 3 50 3 E@2 1 0 1 9",
-       {"Pipe 2 3 is fed from a vertical head"}},
-      {2, 0, kKeep, "1 2 50 3 U 1 0 1 9 / 2 3 50 3 E@1.9 1 0 1 9", {}},
-      {1, 14, kKeep, "1 2 80 3 N 1 0 1 9", {"Head at node 2 is on a 80 mm pipe"}}};
-  for (const WarningCase& warning : cases) {
-    SCOPED_TRACE(warning.lines);
-    Check(warning.lines, warning.mode);
-    EXPECT_EQ(Warnings(), warning.warnings);
-    EXPECT_EQ(project.WarningCount, static_cast<int>(warning.warnings.size()));
-    EXPECT_EQ(project.PipeError[warning.pipe], warning.code);
+      {4, 13, kCompose, "1 2 100 3 N / 2 3 100 3 E HY900 / 2 4 100 3 N AE1 / 4 5 50 3 N 1 0 1 9",
+       "Pipe 2 3 = 100mm  Eq.len of tees = 0m\r\nPipe 2 4 = 100mm  Eq.len of elbows = 0m\r\n"},
+      {1, 14, kKeep, "1 2 50 3 N / 2 3 50 3 E / 2 4 50 4 *90.4@0.4",
+       "2 pipes from node 2 have the same direction\r\n"},
+      {1, 0, kKeep, "1 2 50 3 N / 2 3 50 3 E / 2 4 50 4 *90.4@0.5", ""},
+      {2, 14, kKeep, "1 2 50 3 U 1 0 1 9 / 2 3 50 3 E@2 1 0 1 9",
+       "Pipe 2 3 is fed from a vertical head\r\n"},
+      {2, 0, kKeep, "1 2 50 3 U 1 0 1 9 / 2 3 50 3 E@1.9 1 0 1 9", ""},
+      {1, 14, kKeep, "1 2 80 3 N 1 0 1 9", "Head at node 2 is on a 80 mm pipe\r\n"}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.lines);
+    Check(c.lines, c.mode);
+    EXPECT_EQ(project.WarningText, c.warnings);
+    EXPECT_EQ(project.WarningCount, std::ranges::count(project.WarningText, '\n'));
+    EXPECT_EQ(project.PipeError[c.pipe], c.mark);
     EXPECT_TRUE(captions.empty());
   }
 }
 
 TEST_F(CheckFixture, TeeShapes) {
   // The third pipe at a node whose feed and second pipe run north.
-  struct ShapeCase {
-    const char* branch;
-    bool is_tee;
-  };
-  for (const ShapeCase& shape :
-       {ShapeCase{"E", true}, ShapeCase{"*89.5", true}, ShapeCase{"*89.4", false},
-        ShapeCase{"W", true}, ShapeCase{"*5", true}, ShapeCase{"*5.1", false}, ShapeCase{"U", true},
-        ShapeCase{"N@5.1", false}, ShapeCase{"*45@90", true}, ShapeCase{"S", false}}) {
-    Check(std::string("1 2 50 3 N / 2 3 50 3 N / 2 4 50 3 ") + shape.branch);
-    EXPECT_EQ(FaultNumbers().empty(), shape.is_tee) << shape.branch;
+  const std::pair<std::string, bool> branches[] = {
+      {"E", true},     {"*89.5", true}, {"*89.4", false}, {"W", true},      {"*5", true},
+      {"*5.1", false}, {"U", true},     {"N@5.1", false}, {"*45@90", true}, {"S", false}};
+  for (const auto& [branch, is_tee] : branches) {
+    Check("1 2 50 3 N / 2 3 50 3 N / 2 4 50 3 " + branch);
+    EXPECT_EQ(FaultNumbers().empty(), is_tee) << branch;
   }
   // A head makes a junction of a bend.
   Check("1 2 50 3 N 1 0 1 9 / 2 3 50 3 E 1 0 1 9");

@@ -51,37 +51,29 @@ TEST_F(Geometry, ANetworkBelowTheOriginIsMovedWithItsSource) {
   EXPECT_EQ(project.ZOffset, 0.0F);
 }
 
-struct JointCase {
-  const char* options;
-  const char* first;
-  const char* second;
-  // Rises and lengths of the two pipes.
-  float first_rise;
-  float first_length;
-  float second_rise;
-  float second_length;
-};
-
 TEST_F(Geometry, SwingJointsCorrectLengths) {
-  const JointCase cases[] = {
-      // Back over a riser: plan 4 + 3 tan 30 = 5.7321, rise 5.7321 tan 30.
-      {"1", "N@60", "S@30", 3, 3.4641F, 3.3094F, 6.6188F},
-      {"-LC", "N@60", "S@30", 3, 3.4641F, 2.3094F, 4.6188F},
-      // Straight on: the same.
-      {"1", "N@60", "N@30", 3, 3.4641F, 3.3094F, 6.6188F},
-      {"-LC", "N@60", "N@30", 3, 3.4641F, 2.3094F, 4.6188F},
-      // No joint: the slopes are no right angle.
-      {"1", "N@60", "N@32", 3, 3.4641F, 2.4995F, 4.7167F},
-      // Up behind a falling pipe: its plan 3 - 4 tan 30 = 0.6906, its rise 0.6906 tan -30.
-      {"+WR", "N@-30", "N@60", -0.3987F, 0.7974F, 4, 4.6188F},
-      {"1", "N@-30", "N@60", -1.7321F, 3.4641F, 4, 4.6188F},
-      {"+WR -LC", "N@-30", "N@60", -1.7321F, 3.4641F, 4, 4.6188F},
-      // Down and back behind a rising pipe.
-      {"+WR", "N@30", "S@-60", 0.3987F, 0.7974F, -4, 4.6188F}};
-  for (const JointCase& joint : cases) {
-    SCOPED_TRACE(std::string(joint.options) + " " + joint.first + " " + joint.second);
+  const struct {
+    std::string options, first, second;
+    float first_rise, first_length, second_rise, second_length;
+  } cases[] = {// Back over a riser: plan 4 + 3 tan 30 = 5.7321, rise 5.7321 tan 30.
+               {"1", "N@60", "S@30", 3, 3.4641F, 3.3094F, 6.6188F},
+               {"-LC", "N@60", "S@30", 3, 3.4641F, 2.3094F, 4.6188F},
+               // Straight on: the same.
+               {"1", "N@60", "N@30", 3, 3.4641F, 3.3094F, 6.6188F},
+               {"-LC", "N@60", "N@30", 3, 3.4641F, 2.3094F, 4.6188F},
+               // No joint: the slopes are no right angle.
+               {"1", "N@60", "N@32", 3, 3.4641F, 2.4995F, 4.7167F},
+               {"1", "N@60", "S@31", 3, 3.4641F, 2.4034F, 4.6665F},
+               // Up behind a falling pipe: its plan 3 - 4 tan 30 = 0.6906, its rise 0.6906 tan -30.
+               {"+WR", "N@-30", "N@60", -0.3987F, 0.7974F, 4, 4.6188F},
+               {"1", "N@-30", "N@60", -1.7321F, 3.4641F, 4, 4.6188F},
+               {"+WR -LC", "N@-30", "N@60", -1.7321F, 3.4641F, 4, 4.6188F},
+               // Down and back behind a rising pipe.
+               {"+WR", "N@30", "S@-60", 0.3987F, 0.7974F, -4, 4.6188F}};
+  for (const auto& joint : cases) {
+    SCOPED_TRACE(joint.options + " " + joint.first + " " + joint.second);
     SetItem(Item::kInstallation, joint.options);
-    Check(std::string("1 2 50 3 ") + joint.first + " / 2 3 50 4 " + joint.second);
+    Check("1 2 50 3 " + joint.first + " / 2 3 50 4 " + joint.second);
     EXPECT_NEAR(project.PipeRise[1], joint.first_rise, kNear);
     EXPECT_NEAR(project.PipeLength[1], joint.first_length, kNear);
     EXPECT_NEAR(project.PipeRise[2], joint.second_rise, kNear);
@@ -90,23 +82,16 @@ TEST_F(Geometry, SwingJointsCorrectLengths) {
   }
 }
 
-struct ClosingCase {
-  float dx;
-  float dy;
-  float dz;
-  float direction;
-  float slope;
-  float distance;
-};
-
 TEST_F(Geometry, ClosingLinesPointInEveryDirection) {
-  const ClosingCase cases[] = {
+  const struct {
+    float dx, dy, dz, direction, slope, distance;
+  } cases[] = {
       {3, 4, 0, 36.8699F, 0, 5},   {3, -4, 0, 143.1301F, 0, 5}, {-3, -4, 0, 216.8699F, 0, 5},
       {-3, 4, 0, 323.1301F, 0, 5}, {0, 4, 0, 0, 0, 4},          {-0.001F, 4, 0, 0, 0, 4},
       {5, 0.01F, 0, 90, 0, 5},     {-5, -0.01F, 0, 270, 0, 5},  {0, 0, 2, 999, 0, 2},
       {0.01F, 0, -2, -999, 0, 2},  {0, 0, 0, 999, 0, 0.01F},    {4, 3, 5, 53.1301F, 45, 5},
       {5, 0.02F, -5, 77, -45, 5}};  // at 0.02 m the entered direction stays
-  for (const ClosingCase& closing : cases) {
+  for (const auto& closing : cases) {
     project.PipeX[2] = closing.dx;
     project.PipeY[2] = closing.dy;
     project.PipeZ[2] = closing.dz;

@@ -20,15 +20,13 @@
 #include "support/failure_of.h"
 #include "temporary_folder.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
 
 namespace fs = std::filesystem;
-using test::FailureOf;
 using Texts = std::vector<std::string>;
 
-class PosixFileSystemTest : public testing::Test {
- protected:
+struct PosixFileSystemTest : testing::Test {
   // Runs an action in a child, which answers with the number of the failure.
   template <class Action>
   pid_t Fork(Action action) {
@@ -43,148 +41,144 @@ class PosixFileSystemTest : public testing::Test {
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
   }
 
-  TemporaryFolder folder_;
-  PosixFileSystem files_;
+  TemporaryFolder folder;
+  const std::string path = folder / "a.zeb";
+  PosixFileSystem files;
 };
 
 TEST_F(PosixFileSystemTest, WritesReadsAndRemoves) {
-  const std::string path = folder_ / "a.zeb";
   std::string bytes(200000, 'x');
   bytes[1] = '\0';
-  files_.WriteFile(path, bytes);
-  EXPECT_EQ(files_.ReadFile(path), bytes);
-  EXPECT_EQ(files_.FileSize(path), bytes.size());
-  EXPECT_GT(files_.FileTime(path).year, 2000);
-  files_.WriteFile(path, "short");
-  files_.AppendFile(path, "er");
-  EXPECT_EQ(files_.ReadFile(path), "shorter");
-  files_.Rename(path, folder_ / "b.zeb");
-  files_.MakeFolder(folder_ / "deep/er");
-  files_.MakeFolder(folder_ / "deep/er");
-  EXPECT_EQ(files_.FileNames(folder_ / ""), Texts{"b.zeb"});
-  EXPECT_EQ(files_.FolderNames(folder_ / ""), Texts{"deep"});
-  EXPECT_EQ(files_.FileNames(folder_ / "none"), Texts{});
-  files_.Remove(folder_ / "b.zeb");
-  EXPECT_FALSE(files_.FileExists(folder_ / "b.zeb"));
+  files.WriteFile(path, bytes);
+  EXPECT_EQ(files.ReadFile(path), bytes);
+  EXPECT_EQ(files.FileSize(path), bytes.size());
+  EXPECT_GT(files.FileTime(path).year, 2000);
+  files.WriteFile(path, "short");
+  files.AppendFile(path, "er");
+  EXPECT_EQ(files.ReadFile(path), "shorter");
+  files.Rename(path, folder / "b.zeb");
+  files.MakeFolder(folder / "deep/er");
+  files.MakeFolder(folder / "deep/er");
+  EXPECT_EQ(files.FileNames(folder / ""), Texts{"b.zeb"});
+  EXPECT_EQ(files.FolderNames(folder / ""), Texts{"deep"});
+  EXPECT_EQ(files.FileNames(folder / "none"), Texts{});
+  files.Remove(folder / "b.zeb");
+  EXPECT_FALSE(files.FileExists(folder / "b.zeb"));
 }
 
 TEST_F(PosixFileSystemTest, TellsFailuresByTheirNumbers) {
-  files_.WriteFile(folder_ / "file", "");
-  EXPECT_EQ(FailureOf([&] { (void)files_.ReadFile(folder_ / "none"); }), 53);
-  EXPECT_EQ(FailureOf([&] { (void)files_.ReadFile(folder_ / "none/none"); }), 76);
-  EXPECT_EQ(FailureOf([&] { (void)files_.ReadFile(folder_ / "file/none"); }), 76);
-  EXPECT_EQ(FailureOf([&] { files_.WriteFile(folder_ / "none/a", ""); }), 76);
-  EXPECT_EQ(FailureOf([&] { files_.WriteFile(folder_ / "", ""); }), 75);
-  EXPECT_EQ(FailureOf([&] { files_.WriteFile(folder_ / std::string(300, 'x'), ""); }), 52);
-  EXPECT_EQ(FailureOf([&] { files_.WriteFile("", ""); }), 52);
-  EXPECT_EQ(FailureOf([&] { files_.WriteFile("/proc/self/none", ""); }), 53);
-  EXPECT_EQ(FailureOf([&] { files_.Remove(folder_ / "none"); }), 53);
-  EXPECT_EQ(FailureOf([&] { files_.MakeFolder(folder_ / "file"); }), 76);
+  files.WriteFile(folder / "file", "");
+  EXPECT_EQ(FailureOf([&] { (void)files.ReadFile(folder / "none"); }), 53);
+  EXPECT_EQ(FailureOf([&] { (void)files.ReadFile(folder / "none/none"); }), 76);
+  EXPECT_EQ(FailureOf([&] { (void)files.ReadFile(folder / "file/none"); }), 76);
+  EXPECT_EQ(FailureOf([&] { files.WriteFile(folder / "none/a", ""); }), 76);
+  EXPECT_EQ(FailureOf([&] { files.WriteFile(folder / "", ""); }), 75);
+  EXPECT_EQ(FailureOf([&] { files.WriteFile(folder / std::string(300, 'x'), ""); }), 52);
+  EXPECT_EQ(FailureOf([&] { files.WriteFile("", ""); }), 52);
+  EXPECT_EQ(FailureOf([&] { files.WriteFile("/proc/self/none", ""); }), 53);
+  EXPECT_EQ(FailureOf([&] { files.Remove(folder / "none"); }), 53);
+  EXPECT_EQ(FailureOf([&] { files.MakeFolder(folder / "file"); }), 76);
   EXPECT_EQ(FailureNumber(ENOSPC), 61);
   EXPECT_EQ(FailureNumber(EROFS), 75);
   EXPECT_EQ(FailureNumber(EMFILE), 67);
 }
 
 TEST_F(PosixFileSystemTest, NeverWaitsForAPipeNorReadsADevice) {
-  const std::string pipe = folder_ / "pipe";
+  const std::string pipe = folder / "pipe";
   ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
-  for (const std::string& path : {pipe, std::string("/dev/zero"), folder_ / ""}) {
-    EXPECT_EQ(FailureOf([&] { (void)files_.ReadFile(path); }), 75) << path;
-    EXPECT_EQ(FailureOf([&] { files_.WriteFile(path, "x"); }), 75) << path;
-    EXPECT_EQ(FailureOf([&] { WriteFileSafely(files_, path, "x"); }), 75) << path;
-    EXPECT_EQ(FailureOf([&] { (void)files_.FileSize(path); }), 75) << path;
+  for (const std::string& odd : {pipe, std::string("/dev/zero"), folder / ""}) {
+    EXPECT_EQ(FailureOf([&] { (void)files.ReadFile(odd); }), 75) << odd;
+    EXPECT_EQ(FailureOf([&] { files.WriteFile(odd, "x"); }), 75) << odd;
+    EXPECT_EQ(FailureOf([&] { WriteFileSafely(files, odd, "x"); }), 75) << odd;
+    EXPECT_EQ(FailureOf([&] { (void)files.FileSize(odd); }), 75) << odd;
   }
   EXPECT_TRUE(fs::is_fifo(pipe));
 }
 
 TEST_F(PosixFileSystemTest, KeepsPermissionsAndLinks) {
-  const std::string path = folder_ / "a.zeb";
-  files_.WriteFile(path, "old");
+  files.WriteFile(path, "old");
   chmod(path.c_str(), 0640);
-  fs::create_symlink("a.zeb", folder_ / "link");
-  fs::create_symlink("link", folder_ / "link to link");
-  fs::create_symlink("new.zeb", folder_ / "link to new");
-  WriteFileSafely(files_, folder_ / "link to link", "new");
-  WriteFileSafely(files_, folder_ / "link to new", "made");
-  EXPECT_EQ(files_.ReadFile(path), "new");
-  EXPECT_EQ(files_.ReadFile(folder_ / "new.zeb"), "made");
-  EXPECT_TRUE(fs::is_symlink(folder_ / "link to link"));
+  fs::create_symlink("a.zeb", folder / "link");
+  fs::create_symlink("link", folder / "link to link");
+  fs::create_symlink("new.zeb", folder / "link to new");
+  WriteFileSafely(files, folder / "link to link", "new");
+  WriteFileSafely(files, folder / "link to new", "made");
+  EXPECT_EQ(files.ReadFile(path), "new");
+  EXPECT_EQ(files.ReadFile(folder / "new.zeb"), "made");
+  EXPECT_TRUE(fs::is_symlink(folder / "link to link"));
   EXPECT_EQ(fs::status(path).permissions(), static_cast<fs::perms>(0640));
 
-  fs::create_symlink("loop", folder_ / "loop");
-  EXPECT_EQ(FailureOf([&] { (void)files_.ReadFile(folder_ / "loop"); }), 52);
+  fs::create_symlink("loop", folder / "loop");
+  EXPECT_EQ(FailureOf([&] { (void)files.ReadFile(folder / "loop"); }), 52);
 }
 
 // Root may write anything, so the child is another user.
 TEST_F(PosixFileSystemTest, RefusesReadOnlyFilesAndFolders) {
-  const std::string path = folder_ / "a.zeb";
-  files_.WriteFile(path, "old");
+  files.WriteFile(path, "old");
   for (const auto& [file_mode, folder_mode] : {std::pair{0444, 0777}, std::pair{0666, 0555}}) {
     chmod(path.c_str(), file_mode);
-    chmod(folder_.Path().c_str(), folder_mode);
+    chmod(folder.Path().c_str(), folder_mode);
     const pid_t child = Fork([&] {
       constexpr uid_t kNobody = 65534;
       if (geteuid() == 0 && setuid(kNobody) != 0) throw RuntimeFailure(5);
-      WriteFileSafely(files_, path, "new");
+      WriteFileSafely(files, path, "new");
     });
     EXPECT_EQ(ExitStatus(child), 75);
-    EXPECT_EQ(files_.ReadFile(path), "old");
+    EXPECT_EQ(files.ReadFile(path), "old");
   }
-  chmod(folder_.Path().c_str(), 0700);
+  chmod(folder.Path().c_str(), 0700);
 }
 
 TEST_F(PosixFileSystemTest, OpensNamesInAndOutsideTheCodePage) {
-  const std::string umlaut = folder_ / "M\xFChle.zeb";  // as texts hold it
-  files_.WriteFile(umlaut, "1");
-  EXPECT_TRUE(fs::exists(folder_ / "M\xC3\xBChle.zeb"));  // as the disk does
-  const std::string alpha = folder_ / "\xCE\xB1.zeb";
-  files_.WriteFile(alpha, "2");
+  const std::string umlaut = folder / "M\xFChle.zeb";  // as texts hold it
+  files.WriteFile(umlaut, "1");
+  EXPECT_TRUE(fs::exists(folder / "M\xC3\xBChle.zeb"));  // as the disk does
+  const std::string alpha = folder / "\xCE\xB1.zeb";
+  files.WriteFile(alpha, "2");
   EXPECT_TRUE(fs::exists(alpha));
-  const std::string ambiguous = folder_ / "\xC3\x83\xC2\xBC.zeb";  // a tilde and a quarter
-  files_.WriteFile(ambiguous, "3");
+  const std::string ambiguous = folder / "\xC3\x83\xC2\xBC.zeb";  // a tilde and a quarter
+  files.WriteFile(ambiguous, "3");
   EXPECT_TRUE(fs::exists(ambiguous));
-  for (const std::string& name : files_.FileNames(folder_ / "")) {
-    EXPECT_EQ(files_.ReadFile(folder_ / name).size(), 1U) << name;
+  for (const std::string& name : files.FileNames(folder / "")) {
+    EXPECT_EQ(files.ReadFile(folder / name).size(), 1U) << name;
   }
-  EXPECT_EQ(files_.FileNames(folder_ / "").size(), 3U);
+  EXPECT_EQ(files.FileNames(folder / "").size(), 3U);
 }
 
 // A disk with room for half of the new bytes.
 TEST_F(PosixFileSystemTest, AFullDiskLeavesTheOldFile) {
-  const std::string path = folder_ / "a.zeb";
   const std::string old_bytes(100000, 'o');
-  files_.WriteFile(path, old_bytes);
+  files.WriteFile(path, old_bytes);
   const pid_t child = Fork([&] {
     std::signal(SIGXFSZ, SIG_IGN);
     const rlimit half{100000, 100000};
     setrlimit(RLIMIT_FSIZE, &half);
-    WriteFileSafely(files_, path, std::string(200000, 'n'));
+    WriteFileSafely(files, path, std::string(200000, 'n'));
   });
   EXPECT_EQ(ExitStatus(child), 61);
-  EXPECT_EQ(files_.ReadFile(path), old_bytes);
-  EXPECT_EQ(files_.FileNames(folder_ / ""), Texts{"a.zeb"});
+  EXPECT_EQ(files.ReadFile(path), old_bytes);
+  EXPECT_EQ(files.FileNames(folder / ""), Texts{"a.zeb"});
 }
 
 // A child saves two contents in turn until it is killed, at moments that differ.
 TEST_F(PosixFileSystemTest, AKilledSaveLeavesAWholeFile) {
-  const std::string path = folder_ / "a.zeb";
   const Texts contents{std::string(300000, 'a'), std::string(500000, 'b')};
-  files_.WriteFile(path, contents[0]);
+  files.WriteFile(path, contents[0]);
   for (int round = 0; round < 20; ++round) {
     const pid_t child = Fork([&] {
       while (true) {
-        for (const std::string& bytes : contents) WriteFileSafely(files_, path, bytes);
+        for (const std::string& bytes : contents) WriteFileSafely(files, path, bytes);
       }
     });
     std::this_thread::sleep_for(std::chrono::microseconds(1000 + 1700 * round));
     kill(child, SIGKILL);
     ExitStatus(child);
-    const std::string stands = files_.ReadFile(path);
+    const std::string stands = files.ReadFile(path);
     EXPECT_TRUE(stands == contents[0] || stands == contents[1]) << stands.size();
   }
-  WriteFileSafely(files_, path, contents[0]);
-  EXPECT_EQ(files_.FileNames(folder_ / ""), Texts{"a.zeb"});
+  WriteFileSafely(files, path, contents[0]);
+  EXPECT_EQ(files.FileNames(folder / ""), Texts{"a.zeb"});
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

@@ -13,11 +13,9 @@
 #include "support/memory_file_system.h"
 #include "temporary_folder.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
 
-using test::FailureOf;
-using test::MemoryFileSystem;
 using Entries = std::vector<ArchiveEntry>;
 
 const Entries kEntries{{"a.txt", "some text some text some text"},
@@ -32,9 +30,12 @@ void ExpectEntries(const Entries& found) {
   }
 }
 
-TEST(ZipArchiveTest, UnpacksWhatItPacked) {
+struct ZipArchiveTest : testing::Test {
   MemoryFileSystem files;
-  ZipArchive archive(files);
+  ZipArchive archive{files};
+};
+
+TEST_F(ZipArchiveTest, UnpacksWhatItPacked) {
   for (const char* password : {"", "A1b2C3d"}) {
     archive.Write("/a.zip", kEntries, password);
     ExpectEntries(archive.Read("/a.zip", password));
@@ -44,9 +45,7 @@ TEST(ZipArchiveTest, UnpacksWhatItPacked) {
   EXPECT_TRUE(archive.Read("/a.zip", "").empty());
 }
 
-TEST(ZipArchiveTest, RefusesWhatItCannotTrust) {
-  MemoryFileSystem files;
-  ZipArchive archive(files);
+TEST_F(ZipArchiveTest, RefusesWhatItCannotTrust) {
   EXPECT_EQ(FailureOf([&] { (void)archive.Read("/none.zip", ""); }), 53);
 
   archive.Write("/a.zip", kEntries, "right");
@@ -63,9 +62,7 @@ TEST(ZipArchiveTest, RefusesWhatItCannotTrust) {
 }
 
 // Every cut and every changed byte gives the old entries or a failure, never other bytes.
-TEST(ZipArchiveTest, NeverReadsDamagedBytes) {
-  MemoryFileSystem files;
-  ZipArchive archive(files);
+TEST_F(ZipArchiveTest, NeverReadsDamagedBytes) {
   const Entries entries{{"a.txt", "some text"}};
   archive.Write("/a.zip", entries, "");
   const std::string good = files.Bytes("/a.zip");
@@ -83,9 +80,7 @@ TEST(ZipArchiveTest, NeverReadsDamagedBytes) {
   }
 }
 
-TEST(ZipArchiveTest, AFullDiskLeavesTheOldArchive) {
-  MemoryFileSystem files;
-  ZipArchive archive(files);
+TEST_F(ZipArchiveTest, AFullDiskLeavesTheOldArchive) {
   archive.Write("/a.zip", kEntries, "");
   files.FailAt(1, 61);
   EXPECT_EQ(FailureOf([&] { archive.Write("/a.zip", {}, ""); }), 61);
@@ -93,14 +88,13 @@ TEST(ZipArchiveTest, AFullDiskLeavesTheOldArchive) {
   ExpectEntries(archive.Read("/a.zip", ""));
 }
 
-TEST(ZipArchiveTest, OpensTheArchiveOfTheProgramFolder) {
-  PosixFileSystem files;
-  ZipArchive archive(files);
-  const Entries entries =
-      archive.Read(std::string(ZEB_PROGRAM_FOLDER) + "/DesignAuth_V2.dat", design_auth_password);
+TEST_F(ZipArchiveTest, OpensTheArchiveOfTheProgramFolder) {
+  PosixFileSystem disk;
+  const Entries entries = ZipArchive(disk).Read(
+      std::string(ZEB_PROGRAM_FOLDER) + "/DesignAuth_V2.dat", design_auth_password);
   ASSERT_EQ(entries.size(), 1U);
   EXPECT_EQ(entries[0].name, "DesignAuth.csv");
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

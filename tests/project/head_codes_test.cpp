@@ -3,29 +3,30 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "project/head_code_editor.h"
-#include "support/failure_of.h"
+#include "support/slots.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::FailureOf;
-using test::TestSession;
 
 struct HeadCodes : testing::Test, TestSession {
   HeadCodes() { project.ProjectPath = "/JOBS/A.ZEB"; }
 
-  void SetLines(const std::vector<std::string>& lines) {
+  void SetLines(const Texts& lines) {
     project.HeadCodeLines.Clear();
     project.HeadCodeCount = 0;
     for (const std::string& line : lines) AppendHeadCodeLine(project, line);
   }
   void Fill(int count) {
-    SetLines(
-        std::vector<std::string>(static_cast<std::size_t>(count), "01 15.0  80.00   0.50 STD1"));
+    SetLines(Texts(static_cast<std::size_t>(count), "01 15.0  80.00   0.50 STD1"));
+  }
+  void Add(const char* size, const char* k, const char* pressure, const char* name) {
+    editor.cmdAddHeadCode_Click();
+    Enter(size, k, pressure, name);
   }
   void Enter(const char* size, const char* k, const char* pressure, const char* name) {
     editor.Size = size;
@@ -35,7 +36,6 @@ struct HeadCodes : testing::Test, TestSession {
     editor.cmdApplyHeadCode_Click();
   }
 
-  Project& project = session.project;
   HeadCodeEditor editor{session};
 };
 
@@ -44,44 +44,31 @@ TEST_F(HeadCodes, ParsesFixedColumns) {
   SetLines({"01 15.0  80.00   0.50 STD1", "02 20.0 115.00   0.35 ELO", "03  6.5  0.950  10.00 MIST",
             "04 15.0           0.50 NONE", "05 15.0  8x.00   0.50 BAD"});
   ParseHeadCodes(project);
-  const float expected[][3] = {
-      {15, 80, 0.5F}, {20, 115, 0.35F}, {6.5F, 0.95F, 10}, {15, 0, 0.5F}, {15, 8, 0.5F}};
-  for (int code = 1; code <= 5; ++code) {
-    SCOPED_TRACE(code);
-    EXPECT_EQ(project.HeadCodeOrifice[code], expected[code - 1][0]);
-    EXPECT_EQ(project.HeadCodeK[code], expected[code - 1][1]);
-    EXPECT_EQ(project.HeadCodePress[code], expected[code - 1][2]);
-    EXPECT_EQ(project.HeadCodeUses[code], 0.0F);
-    EXPECT_EQ(project.HeadCodeMinArea[code], 9999.9F);
-    EXPECT_EQ(project.HeadCodeMaxArea[code], 0.0F);
-  }
+  using Values = std::vector<float>;
+  EXPECT_EQ(Slots(project.HeadCodeOrifice, 1, 5), (Values{15, 20, 6.5F, 15, 15}));
+  EXPECT_EQ(Slots(project.HeadCodeK, 1, 5), (Values{80, 115, 0.95F, 0, 8}));
+  EXPECT_EQ(Slots(project.HeadCodePress, 1, 5), (Values{0.5F, 0.35F, 10, 0.5F, 0.5F}));
+  EXPECT_EQ(Slots(project.HeadCodeUses, 1, 5), Values(5, 0.0F));
+  EXPECT_EQ(Slots(project.HeadCodeMinArea, 1, 5), Values(5, 9999.9F));
+  EXPECT_EQ(Slots(project.HeadCodeMaxArea, 1, 5), Values(5, 0.0F));
 }
 
 // The values that the user types are those that the check reads, whatever the columns.
 TEST_F(HeadCodes, TheCheckReadsWhatWasEntered) {
-  struct Case {
-    const char* size;
-    const char* k;
-    const char* pressure;
-    float orifice_read;
-  };
-  const std::vector<Case> cases = {
+  const std::tuple<const char*, const char*, const char*, float> cases[] = {
       {"15", "80", "0.5", 15.0F},     {"8.5", "115", "0.35", 8.5F},
       {"20", "0.512", "0.05", 20.0F}, {"99.9", "999.99", "999.99", 99.9F},
-      {"120", "360", "1.25", 120.0F}, {"0", "1", "0", 0.0F},
-  };
-  for (const int before : {0, 8, 98, 100, 299}) {
-    for (const Case& head : cases) {
-      SCOPED_TRACE(std::string(head.size) + " as code " + std::to_string(before + 1));
-      Fill(before);
-      editor.cmdAddHeadCode_Click();
-      Enter(head.size, head.k, head.pressure, "NAME");
-      const int code = before + 1;
+      {"120", "360", "1.25", 120.0F}, {"0", "1", "0", 0.0F}};
+  for (const int code : {1, 9, 99, 101, 300}) {
+    for (const auto& [size, k, pressure, orifice_read] : cases) {
+      SCOPED_TRACE(std::string(size) + " as code " + std::to_string(code));
+      Fill(code - 1);
+      Add(size, k, pressure, "NAME");
       ASSERT_EQ(project.HeadCodeCount, code);
       ParseHeadCodes(project);
-      EXPECT_EQ(project.HeadCodeOrifice[code], head.orifice_read);
-      EXPECT_EQ(project.HeadCodeK[code], std::stof(head.k));
-      EXPECT_EQ(project.HeadCodePress[code], std::stof(head.pressure));
+      EXPECT_EQ(project.HeadCodeOrifice[code], orifice_read);
+      EXPECT_EQ(project.HeadCodeK[code], std::stof(k));
+      EXPECT_EQ(project.HeadCodePress[code], std::stof(pressure));
       EXPECT_EQ(editor.HeadName, "NAME");
     }
   }
@@ -96,8 +83,7 @@ TEST_F(HeadCodes, AddedLinesHaveTheirFields) {
   EXPECT_EQ(editor.SelectedPosition(), 1);
   EXPECT_EQ(editor.Changes, 1);
 
-  editor.cmdAddHeadCode_Click();
-  Enter("15", "1200", "0.5", "TOO LARGE");  // its first digit would stand in a column not read
+  Add("15", "1200", "0.5", "TOO LARGE");  // its first digit would stand in a column not read
   EXPECT_TRUE(editor.Editing());
   EXPECT_EQ(dialogs.messages.size(), 1U);
   editor.cmdCancelHeadCode_Click();
@@ -107,18 +93,16 @@ TEST_F(HeadCodes, AddedLinesHaveTheirFields) {
 
 TEST_F(HeadCodes, TheListEndsAt400) {
   Fill(400);
-  editor.cmdAddHeadCode_Click();
-  Enter("15", "80", "0.5", "STD");
+  Add("15", "80", "0.5", "STD");
   EXPECT_EQ(project.HeadCodeCount, 400);
   ASSERT_EQ(dialogs.messages.size(), 1U);
-  EXPECT_EQ(dialogs.messages[0].text.substr(0, 22), "Subscript out of range");
+  EXPECT_TRUE(dialogs.messages[0].text.starts_with("Subscript out of range"));
 }
 
 // The editor takes code 100 for a wide one, the check for a narrow one.
 TEST_F(HeadCodes, Code100IsReadDifferently) {
   Fill(99);
-  editor.cmdAddHeadCode_Click();
-  Enter("15", "80", "0.5", "STD");
+  Add("15", "80", "0.5", "STD");
   EXPECT_EQ(HeadCodeAt(project, 100).k, 80.0F);
   ParseHeadCodes(project);
   EXPECT_EQ(project.HeadCodeK[100], 0.0F);
@@ -141,8 +125,8 @@ TEST_F(HeadCodes, AnEditKeepsTheNumberAndThePosition) {
   EXPECT_EQ(editor.KFactor, "115.00");
   editor.cmdEdit_Click();
   Enter("8", "57.5", "0.5", "RES");
-  EXPECT_EQ(project.HeadCodeLines[1], "01 15.0  80.00   0.50 STD1");
-  EXPECT_EQ(project.HeadCodeLines[2], "07  8.0  57.50   0.50 RES         /JOBS/A.ZEB");
+  EXPECT_EQ(Slots(project.HeadCodeLines, 1, 2),
+            (Texts{"01 15.0  80.00   0.50 STD1", "07  8.0  57.50   0.50 RES         /JOBS/A.ZEB"}));
 }
 
 TEST_F(HeadCodes, ALibraryIsAppendedUnderNewNumbers) {
@@ -154,11 +138,10 @@ TEST_F(HeadCodes, ALibraryIsAppendedUnderNewNumbers) {
             " 12 20.0 161.00   0.50 ESFR LONG NAME\r\n");
   dialogs.open_answers = {"/lib.hcl"};
   editor.cmdLoad_Click();
-  ASSERT_EQ(project.HeadCodeCount, 7);
-  EXPECT_EQ(project.HeadCodeLines[4], "04 15.0  80.00   0.50 STD1    ");
-  EXPECT_EQ(project.HeadCodeLines[5], "05  8.5 115.00   0.35 ELO     ");
-  EXPECT_EQ(project.HeadCodeLines[6], "06" + std::string(28, ' '));
-  EXPECT_EQ(project.HeadCodeLines[7], "07 20.0 161.00   0.50 ESFR LON");
+  EXPECT_EQ(project.HeadCodeCount, 7);
+  EXPECT_EQ(Slots(project.HeadCodeLines, 4, 7),
+            (Texts{"04 15.0  80.00   0.50 STD1    ", "05  8.5 115.00   0.35 ELO     ",
+                   "06" + std::string(28, ' '), "07 20.0 161.00   0.50 ESFR LON"}));
   EXPECT_EQ(dialogs.opens[0].title, "Load Head Code Library File");
   EXPECT_EQ(dialogs.opens[0].folder, session.folders.LibraryFolder);
 
@@ -176,8 +159,8 @@ TEST_F(HeadCodes, ALibraryIsOverwrittenOnlyOnYes) {
     dialogs.save_answers = {"/lib.hcl"};
     dialogs.answers = {answer};
     editor.cmdSave_Click();
-    EXPECT_EQ(dialogs.messages.back().title, "Existing file name");
-    EXPECT_EQ(dialogs.messages.back().text, "Do you wish to overwrite the existing file?  ");
+    EXPECT_EQ(dialogs.Shown().back(),
+              (ShownBox{"Existing file name", "Do you wish to overwrite the existing file?  "}));
     EXPECT_EQ(files.Bytes("/lib.hcl") == "old", answer == Answer::kNo);
   }
   EXPECT_EQ(files.Bytes("/lib.hcl"), "01 15.0  80.00   0.50 STD1        /JOBS/A.ZEB\r\n");
@@ -199,23 +182,17 @@ TEST_F(Compacting, KeepsTheCodesInUse) {
   project.PipeCount = 3;
   project.PipeError[2] = kPipeDeleted;
   countHeads(session);
-  ASSERT_EQ(project.HeadCodeCount, 2);
-  EXPECT_EQ(project.HeadCodeLines[1], "01 20.0 115.00   0.35 ELO         ");
-  EXPECT_EQ(project.HeadCodeLines[2], "02 10.0  57.00   0.50 RES");
-  EXPECT_EQ(project.HeadCodeLines[3], "");
-  EXPECT_EQ(project.HeadCode[1], 2.0F);
-  EXPECT_EQ(project.HeadCode[2], 1.0F);
-  EXPECT_EQ(project.HeadCode[3], -1.0F);
-  EXPECT_EQ(project.HeadCode[4], 2.0F);
+  EXPECT_EQ(project.HeadCodeCount, 2);
+  EXPECT_EQ(Slots(project.HeadCodeLines, 1, 3),
+            (Texts{"01 20.0 115.00   0.35 ELO         ", "02 10.0  57.00   0.50 RES", ""}));
+  EXPECT_EQ(Slots(project.HeadCode, 1, 4), (std::vector{2.0F, 1.0F, -1.0F, 2.0F}));
   EXPECT_EQ(commands.composed, (std::vector<int>{1, 3}));
   EXPECT_EQ(shell.redraws, 1);
 }
 
 TEST_F(Compacting, MovesLinesFromTheTenthOnByOneColumn) {
-  std::vector<float> codes;
-  for (int code = 1; code <= 11; ++code) codes.push_back(static_cast<float>(code));
   Fill(11);
-  SetHeads(codes);
+  SetHeads({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11});
   countHeads(session);
   EXPECT_EQ(project.HeadCodeLines[9], "09 15.0  80.00   0.50 STD1");
   EXPECT_EQ(project.HeadCodeLines[10], " 10 15.0  80.00   0.50 STD1");
@@ -235,4 +212,4 @@ TEST_F(Compacting, WithoutHeadsDoesNothing) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

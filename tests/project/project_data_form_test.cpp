@@ -10,12 +10,11 @@
 #include "project/pressure_loss_form.h"
 #include "project/stored_references.h"
 #include "services/text.h"
+#include "support/project_text.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::TestSession;
 
 constexpr const char* kPath = "/JOBS/A.ZEB";
 
@@ -29,12 +28,9 @@ struct OpenJob : TestSession {
     project.SaveFormat = 3;
     files.PutFolder("/JOBS");
     files.Put("/JOBS/A.ZEB", "old");
-    const std::vector<std::string> items = {
-        "Job",  "Street", "12",    "AB",  "EN 12845 Rules", "---", "Water", "65",  "STD_PIPE.PDT",
-        "None", "Area",   "1 -LC", "OH3", "5.00",           "216", "D1",    "---", "no"};
-    for (std::size_t i = 0; i < items.size(); ++i) {
-      project.PipeLines[static_cast<int>(i) + 1] = items[i];
-    }
+    SetLines(project, Split("Job|Street|12|AB|EN 12845 Rules|---|Water|65|STD_PIPE.PDT|None|"
+                            "Area|1 -LC|OH3|5.00|216|D1|---|no",
+                            "|"));
     project.HeadCodeLines[1] = "01 15.0  80.00   0.50 STD1";
     project.HeadCodeCount = 1;
     SetPipeLines({"1 2 65 3.0 N 1 0 1 12", "' comment", "Z!Z! 2 3 50", "2 3 50 4.0 E", "END"});
@@ -44,26 +40,15 @@ struct OpenJob : TestSession {
               "AMAO=216\r\nDRGN=D1\r\nISSU=---\r\n");
   }
 
-  void SetPipeLines(const std::vector<std::string>& lines) {
-    int count = kItemCount;
-    for (const std::string& line : lines) project.PipeLines[++count] = line;
-    project.LineCount = count;
-  }
+  void SetPipeLines(const Texts& lines) { SetLines(project, lines, kFirstPipeLine); }
   void BeginNewProject() {
     project.PipeLines.Clear();
     project.LineCount = 0;
     project.NewProjectFlag = 1;
     project.ProjectPath = "[Untitled]";
   }
-  [[nodiscard]] std::vector<std::string> PipeLines() const {
-    std::vector<std::string> lines;
-    for (int line = kFirstPipeLine; line <= session.project.LineCount; ++line) {
-      lines.push_back(session.project.PipeLines[line]);
-    }
-    return lines;
-  }
+  [[nodiscard]] Texts PipeLines() const { return LinesOf(project, kFirstPipeLine); }
 
-  Project& project = session.project;
   ProjectDataForm form{session};
 };
 
@@ -81,8 +66,8 @@ TEST_F(ProjectData, ShowsTheProject) {
             "Amend input data as required and click on 'Apply' or 'Cancel' to proceed");
   EXPECT_EQ(form.Caption, "ZEB - Project and Design Area Information - ");
   EXPECT_EQ(form.Field(Item::kInstallation), "1 -LC");
-  EXPECT_EQ(form.ListOf(Item::kHazard), std::vector<std::string>{"OH3"});
-  EXPECT_EQ(form.ListOf(Item::kPipeData), std::vector<std::string>{"own.pdt"});
+  EXPECT_EQ(form.ListOf(Item::kHazard), Texts{"OH3"});
+  EXPECT_EQ(form.ListOf(Item::kPipeData), Texts{"own.pdt"});
   EXPECT_EQ(form.ListOf(Item::kAuthority).size(), 3U);
   EXPECT_EQ(form.Supplies.SelectedRow(), 2);
   EXPECT_EQ(form.Text.Boxes[0], "1 2 65 3.0 N 1 0 1 12\r\n' comment\r\n2 3 50 4.0 E\r\n");
@@ -93,15 +78,14 @@ TEST_F(ProjectData, ApplyWithoutAChangeOnlyChecks) {
   project.ZoomState = 1;
   form.Form_Load();
   form.cmdApply_Click();
-  EXPECT_EQ(PipeLines(),
-            (std::vector<std::string>{"1 2 65 3.0 N 1 0 1 12", "' comment", "2 3 50 4.0 E"}));
+  EXPECT_EQ(PipeLines(), (Texts{"1 2 65 3.0 N 1 0 1 12", "' comment", "2 3 50 4.0 E"}));
   EXPECT_EQ(project.PipeLines[22], "");
   EXPECT_EQ(project.DataChanged, 1);
   EXPECT_EQ(files.Bytes("/JOBS/A.ZEB"), "old");
   EXPECT_EQ(project.PipeSizeCount, 21);
   EXPECT_EQ(project.ModelState, model_state::kStale);
   EXPECT_EQ(project.ZoomState, 0);
-  EXPECT_EQ(shell.closed_forms, std::vector<std::string>{"ZEBF02"});
+  EXPECT_EQ(shell.closed_forms, Texts{"ZEBF02"});
   for (const Feature feature :
        {Feature::kCalculateMenu, Feature::kDisplayMenu, Feature::kPrintMenu, Feature::kReport}) {
     EXPECT_FALSE(shell.features.at(feature));
@@ -111,25 +95,32 @@ TEST_F(ProjectData, ApplyWithoutAChangeOnlyChecks) {
 }
 
 TEST(ProjectDataChanges, AreSavedByApply) {
-  const std::map<std::string, void (*)(OpenJob&)> changes = {
-      {"an item", [](OpenJob& job) { job.form.Field(Item::kHazard) = "HHP2"; }},
-      {"an emptied item", [](OpenJob& job) { job.form.Field(Item::kDrawing) = " "; }},
-      {"the comments", [](OpenJob& job) { job.form.Field(Item::kComments) = "-EP"; }},
-      {"the supply", [](OpenJob& job) { job.form.Supplies.SupplyName = "Town"; }},
-      {"the pipes", [](OpenJob& job) { job.form.Text.Boxes[0] += "3 4 50 1.0 N"; }},
-      {"a new reference", [](OpenJob& job) { job.project.JobReferences[1] = "PROJ=Other"; }},
-      {"a head code",
-       [](OpenJob& job) {
-         job.form.HeadCodes.cmdAddHeadCode_Click();
-         job.form.HeadCodes.cmdApplyHeadCode_Click();
-       }},
+  struct Case {
+    const char* what;
+    void (*change)(OpenJob&);
+    int sizes = 21;  // 0 when the pipe data have to be read again
   };
-  for (const auto& [name, change] : changes) {
-    SCOPED_TRACE(name);
+  for (const Case& c : {
+           Case{"an item", [](OpenJob& job) { job.form.Field(Item::kHazard) = "HHP2"; }},
+           Case{"an emptied item", [](OpenJob& job) { job.form.Field(Item::kDrawing) = " "; }},
+           Case{"the comments", [](OpenJob& job) { job.form.Field(Item::kComments) = "-EP"; }},
+           Case{"pipe data", [](OpenJob& job) { job.form.Field(Item::kPipeData) = "Other"; }, 0},
+           Case{"authority", [](OpenJob& job) { job.form.Field(Item::kAuthority) = "Other"; }, 0},
+           Case{"the supply", [](OpenJob& job) { job.form.Supplies.SupplyName = "Town"; }},
+           Case{"the pipes", [](OpenJob& job) { job.form.Text.Boxes[0] += "3 4 50 1.0 N"; }},
+           Case{"reference", [](OpenJob& job) { job.project.JobReferences[1] = "PROJ=Other"; }},
+           Case{"a head code",
+                [](OpenJob& job) {
+                  job.form.HeadCodes.cmdAddHeadCode_Click();
+                  job.form.HeadCodes.cmdApplyHeadCode_Click();
+                }},
+       }) {
+    SCOPED_TRACE(c.what);
     OpenJob job;
     job.form.Form_Load();
-    change(job);
+    c.change(job);
     job.form.cmdApply_Click();
+    EXPECT_EQ(job.project.PipeSizeCount, c.sizes);
     EXPECT_NE(job.files.Bytes("/JOBS/A.ZEB"), "old");
     EXPECT_EQ(job.files.Bytes("/JOBS/A.ZE!"), "old");
     EXPECT_EQ(job.project.DataChanged, 0);
@@ -141,28 +132,9 @@ TEST_F(ProjectData, EmptyItemsTakeTheirDefaults) {
   form.Form_Load();
   form.Field(Item::kPipeData) = "";
   form.cmdApply_Click();
-  const std::vector<std::string> expected = {"---",
-                                             "---",
-                                             "---",
-                                             "---",
-                                             "EN 12845 Rules",
-                                             "---",
-                                             "Water",
-                                             "65",
-                                             "STD_PIPE.PDT",
-                                             "None",
-                                             "Most Unfavourable",
-                                             "1",
-                                             "High Hazard",
-                                             "0.00",
-                                             "0",
-                                             "---",
-                                             "---",
-                                             "---"};
-  for (int item = 1; item <= kItemCount; ++item) {
-    EXPECT_EQ(project.PipeLines[item], expected[static_cast<std::size_t>(item) - 1]) << item;
-  }
-  EXPECT_EQ(project.LineCount, 18);
+  EXPECT_EQ(LinesOf(project), Split("---|---|---|---|EN 12845 Rules|---|Water|65|STD_PIPE.PDT|None|"
+                                    "Most Unfavourable|1|High Hazard|0.00|0|---|---|---",
+                                    "|"));
   EXPECT_EQ(project.DataChanged, 1);
   EXPECT_FALSE(files.Has("[Untitled]"));
 }
@@ -183,34 +155,20 @@ TEST_F(ProjectData, ANewProjectTakesAndKeepsTheChoicesOfTheSettings) {
   EXPECT_EQ(session.settings.GetIniValue("ProjData", "PDT", ""), "METRIC.PDT");
 }
 
-TEST_F(ProjectData, PipeDataAreReadAgainForAnotherFileOrAuthority) {
-  for (const Item item : {Item::kPipeData, Item::kAuthority}) {
-    project.PipeSizeCount = 21;
-    ProjectDataForm changed(session);
-    changed.Form_Load();
-    changed.Field(item) = "Another";
-    changed.cmdApply_Click();
-    EXPECT_EQ(project.PipeSizeCount, 0);
-  }
-}
-
 TEST_F(ProjectData, LinesOfTheBoxesBecomeTheProjects) {
   form.Form_Load();
   form.Text.Boxes[0] = "  1 2 65 3.0 N  \r\nEND\r\n\r\nend of zone\n' last";
   form.Text.Boxes[3] = "5 6 50 1.0 E\r\n";
   form.cmdApply_Click();
-  EXPECT_EQ(PipeLines(), (std::vector<std::string>{"1 2 65 3.0 N", "", "end of zone", "' last",
-                                                   "5 6 50 1.0 E"}));
+  EXPECT_EQ(PipeLines(), (Texts{"1 2 65 3.0 N", "", "end of zone", "' last", "5 6 50 1.0 E"}));
 }
 
 TEST_F(ProjectData, TextBeyondTheBoxesIsToldAndKept) {
   const std::string line = "' " + std::string(98, 'x');  // 102 characters with its line end
-  const std::vector<std::string> lines(2400, line);
+  const Texts lines(2400, line);
   SetPipeLines(lines);
   form.Form_Load();
-  ASSERT_EQ(dialogs.messages.size(), 1U);
-  EXPECT_EQ(dialogs.messages[0].title, "Job is much too big");
-  EXPECT_EQ(dialogs.messages[0].text, "Text box 4 has too many chars");
+  EXPECT_EQ(dialogs.Shown(), (Boxes{{"Job is much too big", "Text box 4 has too many chars"}}));
   for (const std::string& box : form.Text.Boxes) EXPECT_EQ(box.size(), 588U * 102U);
   form.cmdApply_Click();
   EXPECT_EQ(PipeLines(), lines);
@@ -218,7 +176,7 @@ TEST_F(ProjectData, TextBeyondTheBoxesIsToldAndKept) {
 
 TEST_F(ProjectData, TooManyLinesLeaveTheFormOpen) {
   form.Form_Load();
-  const std::vector<std::string> before = PipeLines();
+  const Texts before = PipeLines();
   for (int line = 0; line < 5002; ++line) form.Text.Boxes[1] += "' x\r\n";
   form.cmdApply_Click();
   EXPECT_EQ(PipeLines(), before);
@@ -291,13 +249,14 @@ TEST_F(ProjectData, CompactShowsTheRenumberedLines) {
   project.ModelState = model_state::kChecked;
   dialogs.answers = {Answer::kNo};
   form.cmdCompact_Click();
-  EXPECT_EQ(dialogs.messages.back().title, "Compact  Head Codes");
-  EXPECT_EQ(dialogs.messages.back().text,
-            "Do you wish to remove heads codes which are not used in this project file  ");
+  EXPECT_EQ(
+      dialogs.Shown().back(),
+      ShownBox("Compact  Head Codes",
+               "Do you wish to remove heads codes which are not used in this project file  "));
   EXPECT_EQ(project.HeadCodeCount, 2);
   dialogs.answers = {Answer::kYes};
   form.cmdCompact_Click();
-  EXPECT_EQ(form.HeadCodeRows(), std::vector<std::string>{"01 20.0 115.00   0.35 ELO"});
+  EXPECT_EQ(form.HeadCodeRows(), Texts{"01 20.0 115.00   0.35 ELO"});
   EXPECT_TRUE(Contains(form.Text.Boxes[0], "12 new\r\n"));
   EXPECT_FALSE(form.Text.Edited());
   EXPECT_EQ(project.DataChanged, 1);
@@ -316,7 +275,7 @@ TEST_F(StoredReferences, EachIsStoredOnceUpTo390) {
   EXPECT_EQ(project.JobReferenceCount, 2);
   EXPECT_FALSE(AddReference(project, "PROJ", "One"));
   EXPECT_TRUE(AddReference(project, "PROJ", "Two"));
-  EXPECT_EQ(ReferencesOf(project, "PROJ"), (std::vector<std::string>{"One", "Two"}));
+  EXPECT_EQ(ReferencesOf(project, "PROJ"), (Texts{"One", "Two"}));
   for (int i = 0; i < 500; ++i) AddReference(project, "DRGN", std::to_string(i));
   EXPECT_EQ(project.JobReferenceCount, 390);
 
@@ -331,7 +290,7 @@ TEST_F(StoredReferences, AFileThatCannotBeReadIsNotOverwritten) {
   files.FailAt(1, failure::kPermissionDenied);
   form.Form_Load();
   files.StopFailing();
-  EXPECT_EQ(dialogs.Titles(), std::vector<std::string>{"Disk File Error"});
+  EXPECT_EQ(dialogs.Titles(), Texts{"Disk File Error"});
   form.cmdApply_Click();
   EXPECT_EQ(files.Bytes(path), stored);
 }
@@ -342,7 +301,7 @@ TEST_F(StoredReferences, AreResetToTheLast) {
   ResetReferencesForm reset(session, "PROJ");
   EXPECT_EQ(reset.Rows().size(), 3U);
   reset.Command2_Click();
-  EXPECT_EQ(reset.Rows(), std::vector<std::string>{"Three"});
+  EXPECT_EQ(reset.Rows(), Texts{"Three"});
   EXPECT_EQ(reset.FrameCaption, " Last reference is ");
   EXPECT_EQ(project.JobReferences[3], "XXXX=Two");
   reset.Command1_Click();
@@ -351,4 +310,4 @@ TEST_F(StoredReferences, AreResetToTheLast) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

@@ -3,25 +3,23 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <vector>
 
 #include "project/open_project.h"
 #include "project/project_writer.h"
 #include "project/save_question.h"
+#include "services/text.h"
 #include "support/networks.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::TestSession;
 
 struct SaveCommands : testing::Test, TestSession {
   SaveCommands() {
     project.ProductName = "ZEB";
     project.SaveFormat = 3;
     session.AutoSave = false;
-    files.Put("/jobs/job.zeb", test::ProjectFile({" 1 2 50 1.0 N"}));
+    files.Put("/jobs/job.zeb", ProjectFile({" 1 2 50 1.0 N"}));
   }
 
   void Open() {
@@ -39,10 +37,8 @@ struct SaveCommands : testing::Test, TestSession {
     project.DataChanged = 1;
   }
   [[nodiscard]] bool Saved(const std::string& path) const {
-    return files.Bytes(path).find("changed") != std::string::npos;
+    return Contains(files.Bytes(path), "changed");
   }
-
-  Project& project = session.project;
 };
 
 TEST_F(SaveCommands, TheQuestionDecidesAboutChanges) {
@@ -50,12 +46,12 @@ TEST_F(SaveCommands, TheQuestionDecidesAboutChanges) {
     Open();
     dialogs.answers = {answer};
     EXPECT_TRUE(CheckSaveChanges(session));
-    EXPECT_EQ(dialogs.Titles(), std::vector<std::string>{"Save ZEB Project Data"});
+    EXPECT_EQ(dialogs.Titles(), Texts{"Save ZEB Project Data"});
     EXPECT_EQ(Saved("/jobs/job.zeb"), answer == Answer::kYes);
     EXPECT_EQ(project.DataChanged, 0);
     EXPECT_TRUE(CheckSaveChanges(session));  // nothing left to ask
     EXPECT_EQ(dialogs.messages.size(), 1U);
-    files.Put("/jobs/job.zeb", test::ProjectFile({" 1 2 50 1.0 N"}));
+    files.Put("/jobs/job.zeb", ProjectFile({" 1 2 50 1.0 N"}));
   }
 }
 
@@ -75,18 +71,18 @@ TEST_F(SaveCommands, AnUntitledProjectIsNamed) {
   EXPECT_TRUE(CheckSaveChanges(session));
   EXPECT_EQ(project.ProjectPath, "/OTHER/NEW JOB.ZEB");
   EXPECT_TRUE(Saved("/other/New job.zeb"));
-  EXPECT_EQ(shell.recent_files, std::vector<std::string>{"/other/New job.zeb"});
+  EXPECT_EQ(shell.recent_files, Texts{"/other/New job.zeb"});
   EXPECT_EQ(session.settings.GetIniValue(setting::kProjFolder), "/other");
 }
 
 TEST_F(SaveCommands, AnUntitledProjectIsDroppedOnlyWhenTheUserSaysSo) {
   BeginUntitled();
-  dialogs.answers = {Answer::kNo, Answer::kYes};
-  EXPECT_FALSE(CheckSaveChanges(session));
-  EXPECT_EQ(project.DataChanged, 1);
-  EXPECT_TRUE(CheckSaveChanges(session));
-  EXPECT_EQ(dialogs.messages[1].title, "This data will not be saved");
-  EXPECT_EQ(project.DataChanged, 0);
+  for (const Answer answer : {Answer::kNo, Answer::kYes}) {
+    dialogs.answers = {answer};
+    EXPECT_EQ(CheckSaveChanges(session), answer == Answer::kYes);
+    EXPECT_EQ(dialogs.messages.back().title, "This data will not be saved");
+    EXPECT_EQ(project.DataChanged, answer == Answer::kYes ? 0 : 1);
+  }
 }
 
 TEST_F(SaveCommands, ADeclinedOverwriteIsNotMadeGoodByTheNextSave) {
@@ -120,7 +116,7 @@ TEST_F(SaveCommands, SaveAsLeavesAnExistingFileWhenTheUserSaysNo) {
   dialogs.answers = {Answer::kNo};
   Fsave(session);
   EXPECT_EQ(files.Bytes("/jobs/copy.zeb"), "precious");
-  EXPECT_EQ(dialogs.messages[0].title, "Existing File Name");
+  EXPECT_EQ(dialogs.Titles(), Texts{"Existing File Name"});
   EXPECT_EQ(project.ProjectPath, "/JOBS/JOB.ZEB");
 }
 
@@ -144,4 +140,4 @@ TEST_F(SaveCommands, VersionsAreNumbered) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

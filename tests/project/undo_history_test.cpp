@@ -8,10 +8,8 @@
 #include "project/project_writer.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::TestSession;
 
 struct UndoHistory : testing::Test, TestSession {
   UndoHistory() {
@@ -28,8 +26,6 @@ struct UndoHistory : testing::Test, TestSession {
       Revert(session);
     }
   }
-
-  Project& project = session.project;
 };
 
 TEST_F(UndoHistory, ListsTheLastFiftyAndGoesBackToAnyOfThem) {
@@ -53,7 +49,7 @@ TEST_F(UndoHistory, ListsTheLastFiftyAndGoesBackToAnyOfThem) {
   EXPECT_EQ(project.SelectedHeadsMode, 0);
   EXPECT_EQ(commands.checks, std::vector<CheckMode>{CheckMode::kKeepLines});
   EXPECT_EQ(shell.redraws, 1);
-  EXPECT_EQ(shell.closed_forms, std::vector<std::string>{"frmUndo"});
+  EXPECT_EQ(shell.closed_forms, Texts{"frmUndo"});
 }
 
 // Versions 1 to 10 have given their slots to 51 to 60; what stands there comes back whole.
@@ -68,7 +64,7 @@ TEST_F(UndoHistory, AnOverwrittenVersionComesBackAsTheOneThatTookItsPlace) {
 TEST_F(UndoHistory, TheSequenceStartsAgainBehindItsEnd) {
   Store(1, 1001);
   UndoForm form(session);
-  EXPECT_EQ(form.Rows, std::vector<std::string>{"change 1001 at 09:05:07"});
+  EXPECT_EQ(form.Rows, Texts{"change 1001 at 09:05:07"});
 }
 
 TEST_F(UndoHistory, OneStepEndsAtTheFirstVersion) {
@@ -106,4 +102,4 @@ TEST_F(UndoHistory, NothingIsSavedWithoutAFileOrWithAutomaticSavingOff) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

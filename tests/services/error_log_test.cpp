@@ -2,29 +2,24 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
-
 #include "services/procedure.h"
 #include "services/support_bundle.h"
 #include "services/text.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::TestSession;
-using Texts = std::vector<std::string>;
 
 constexpr const char* kLog = "/prog/ZEB_error.log";
 
-Texts LogLines(const TestSession& test) { return SplitLines(test.files.Bytes(kLog)); }
+struct Logging : testing::Test, TestSession {
+  [[nodiscard]] Texts LogLines() const { return SplitLines(files.Bytes(kLog)); }
+};
 
-TEST(ErrorLogTest, StartsWithItsHeadAndTheNewSession) {
-  TestSession test;
-  test.session.log.LogError({.text = "Two\r\nlines", .source = "ZEB.Open_Save", .line = 12});
-  test.session.log.LogError({.text = "Note", .source = "ZEB.X", .line = 1, .brief = true});
-  const Texts lines = LogLines(test);
+TEST_F(Logging, StartsWithItsHeadAndTheNewSession) {
+  session.log.LogError({.text = "Two\r\nlines", .source = "ZEB.Open_Save", .line = 12});
+  session.log.LogError({.text = "Note", .source = "ZEB.X", .line = 1, .brief = true});
+  const Texts lines = LogLines();
   ASSERT_EQ(lines.size(), 6U);
   EXPECT_EQ(lines[0], "ZEB Error log created on: 22/11/2026 at 09:05:07");
   EXPECT_EQ(lines[1], "ZEB path: /prog");
@@ -36,88 +31,80 @@ TEST(ErrorLogTest, StartsWithItsHeadAndTheNewSession) {
   EXPECT_EQ(lines[5], "22/11/2026 - 09:05:07, Note");
 }
 
-TEST(ErrorLogTest, ALogOfAnEarlierRunGoesOn) {
-  TestSession test;
-  test.files.Put(kLog, "before\r\n");
-  test.session.log.LogError({.text = "Note", .source = "", .line = 0, .brief = true});
-  ASSERT_EQ(LogLines(test).size(), 3U);
-  EXPECT_EQ(LogLines(test)[0], "before");
-  EXPECT_TRUE(Contains(LogLines(test)[1], "New session"));
+TEST_F(Logging, ALogOfAnEarlierRunGoesOn) {
+  files.Put(kLog, "before\r\n");
+  session.log.LogError({.text = "Note", .source = "", .line = 0, .brief = true});
+  ASSERT_EQ(LogLines().size(), 3U);
+  EXPECT_EQ(LogLines()[0], "before");
+  EXPECT_TRUE(Contains(LogLines()[1], "New session"));
 }
 
-TEST(ErrorLogTest, ShowsTheErrorEvenWhenTheDiskIsFull) {
-  TestSession test;
-  test.files.FailAt(1, 61);
-  test.session.log.LogError({.text = "Bad", .source = "ZEB.X", .line = 3, .show = true});
-  ASSERT_EQ(test.dialogs.messages.size(), 1U);
-  EXPECT_EQ(test.dialogs.messages[0].title, "Tolvan - ZEB");
+TEST_F(Logging, ShowsTheErrorEvenWhenTheDiskIsFull) {
+  files.FailAt(1, 61);
+  session.log.LogError({.text = "Bad", .source = "ZEB.X", .line = 3, .show = true});
   EXPECT_EQ(
-      test.dialogs.messages[0].text,
-      "Error: Bad\r\n\r\nThe error happened in component 'ZEB.X' at line 3 and was logged (if "
-      "configured so) to the 'Log.txt' file.");
+      dialogs.Shown(),
+      (Boxes{
+          {"Tolvan - ZEB",
+           "Error: Bad\r\n\r\nThe error happened in component 'ZEB.X' at line 3 and was logged (if "
+           "configured so) to the 'Log.txt' file."}}));
 }
 
-TEST(ProcedureTest, TellsAFailureAndGoesOn) {
-  TestSession test;
+TEST_F(Logging, TellsAFailureAndGoesOn) {
   for (const bool verbose : {false, true}) {
-    test.session.VerboseLogging = verbose;
-    Procedure procedure(test.session, "ZEBF03", "Rdxf_Click");
+    session.VerboseLogging = verbose;
+    Procedure procedure(session, "ZEBF03", "Rdxf_Click");
     EXPECT_FALSE(procedure.Step(10, [] { throw RuntimeFailure(11); }));
     EXPECT_TRUE(procedure.Step(20, [] {}));
-    EXPECT_EQ(test.dialogs.messages.back().text,
+    EXPECT_EQ(dialogs.messages.back().text,
               "Division by zero\r\nin ZEB.ZEBF03.Rdxf_Click at line 10");
-    EXPECT_EQ(test.files.Has(kLog), verbose);
+    EXPECT_EQ(files.Has(kLog), verbose);
   }
-  EXPECT_TRUE(
-      LogLines(test).back().ends_with("Division by zero --- in ZEB.ZEBF03.Rdxf_Click / 10"));
+  EXPECT_TRUE(LogLines().back().ends_with("Division by zero --- in ZEB.ZEBF03.Rdxf_Click / 10"));
 }
 
-TEST(SupportBundleTest, PacksWhatSupportNeeds) {
-  TestSession test;
+TEST_F(Logging, PacksWhatSupportNeeds) {
   for (const char* path :
        {"/prog/ZEB_error.log", "/prog/zeblast.txt", "/prog/STD_PIPE.PDT", "/prog/zeb",
         "/prog/pipedata/other.pdt", "/prog/ZEB_prj_err_dat.zip", "/prog/ZEB_error_data.zip",
         "/config/ZEB/zeb.ini", "/config/ZEB/sub/zebjobs.dat"}) {
-    test.files.Put(path, path);
+    files.Put(path, path);
   }
-  ZEB_error_dat(test.session);
-  EXPECT_TRUE(test.dialogs.messages.empty());
-  const auto& bundle = test.archive.archives["/prog/ZEB_error_data.zip"];
+  ZEB_error_dat(session);
+  EXPECT_TRUE(dialogs.messages.empty());
+  const auto& bundle = archive.archives["/prog/ZEB_error_data.zip"];
   EXPECT_EQ(bundle.password, "");
   Texts names;
   for (const ArchiveEntry& entry : bundle.entries) names.push_back(entry.name);
   EXPECT_EQ(names, (Texts{"STD_PIPE.PDT", "ZEB_error.log", "zeblast.txt", "ZEB_prj_err_dat.zip",
                           "ZEB/zeb.ini", "ZEB/sub/zebjobs.dat"}));
   EXPECT_EQ(bundle.entries.back().bytes, "/config/ZEB/sub/zebjobs.dat");
-  EXPECT_EQ(test.files.Bytes("/desktop/ZEB_error_data.zip"),
-            test.files.Bytes("/prog/ZEB_error_data.zip"));
+  EXPECT_EQ(files.Bytes("/desktop/ZEB_error_data.zip"), files.Bytes("/prog/ZEB_error_data.zip"));
 
-  delErrorLogFiles(test.session);
+  delErrorLogFiles(session);
   for (const char* gone :
        {"/prog/ZEB_error.log", "/prog/ZEB_prj_err_dat.zip", "/prog/ZEB_error_data.zip"}) {
-    EXPECT_FALSE(test.files.Has(gone));
+    EXPECT_FALSE(files.Has(gone));
   }
-  EXPECT_TRUE(test.files.Has("/prog/zeblast.txt"));
-  delErrorLogFiles(test.session);
-  EXPECT_TRUE(test.dialogs.messages.empty());
+  EXPECT_TRUE(files.Has("/prog/zeblast.txt"));
+  delErrorLogFiles(session);
+  EXPECT_TRUE(dialogs.messages.empty());
 }
 
-TEST(SupportBundleTest, StaysInTheProgramFolderWithoutADesktop) {
-  TestSession test;
-  test.machine.desktop = "/none";
-  ZEB_error_dat(test.session);
-  EXPECT_TRUE(test.dialogs.messages.empty());
-  EXPECT_EQ(test.shell.panels[Panel::kHint], "ZEB_error_data.zip packed in /prog");
+TEST_F(Logging, StaysInTheProgramFolderWithoutADesktop) {
+  machine.desktop = "/none";
+  ZEB_error_dat(session);
+  EXPECT_TRUE(dialogs.messages.empty());
+  EXPECT_EQ(shell.panels[Panel::kHint], "ZEB_error_data.zip packed in /prog");
 }
 
-TEST(SupportBundleTest, CopiesNoOlderBundleAfterAFailure) {
-  TestSession test;
-  test.files.Put("/prog/ZEB_error_data.zip", "old");
-  test.files.FailAt(1, 61);
-  ZEB_error_dat(test.session);
-  EXPECT_EQ(test.dialogs.messages.size(), 1U);
-  EXPECT_FALSE(test.files.Has("/desktop/ZEB_error_data.zip"));
+TEST_F(Logging, CopiesNoOlderBundleAfterAFailure) {
+  files.Put("/prog/ZEB_error_data.zip", "old");
+  files.FailAt(1, 61);
+  ZEB_error_dat(session);
+  EXPECT_EQ(dialogs.messages.size(), 1U);
+  EXPECT_FALSE(files.Has("/desktop/ZEB_error_data.zip"));
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

@@ -8,24 +8,24 @@
 #include "support/failure_of.h"
 #include "support/memory_file_system.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::FailureOf;
-using test::MemoryFileSystem;
 
 const std::string kOld = "the old bytes";
 const std::string kNew = "the new and longer bytes";
 
-void PutOldFile(MemoryFileSystem& files) { files.Put("/jobs/a.zeb", kOld); }
+struct FileWriting : testing::Test {
+  FileWriting() { files.Put("/jobs/a.zeb", kOld); }
+
+  MemoryFileSystem files;
+};
 
 // One failure at each operation in turn, until the writing gets by: the old file or the new one
 // stands, and nothing beside it.
-TEST(WriteFileSafelyTest, AFailureAtAnyOperationLeavesAWholeFile) {
+TEST_F(FileWriting, AFailureAtAnyOperationLeavesAWholeFile) {
   int failures = 0;
   for (int operation = 1;; ++operation) {
-    MemoryFileSystem files;
-    PutOldFile(files);
+    files.Put("/jobs/a.zeb", kOld);
     files.FailAt(operation, 61);
     const int failed = FailureOf([&] { WriteFileSafely(files, "/jobs/a.zeb", kNew); });
     ASSERT_EQ(files.AllFiles(), std::vector<std::string>{"/jobs/a.zeb"}) << operation;
@@ -41,11 +41,10 @@ TEST(WriteFileSafelyTest, AFailureAtAnyOperationLeavesAWholeFile) {
   EXPECT_GE(failures, 3) << "write, rename and flush can fail";
 }
 
-TEST(WriteFileSafelyTest, AKillAtAnyOperationLeavesAWholeFileAndTheNextSaveTidiesUp) {
+TEST_F(FileWriting, AKillAtAnyOperationLeavesAWholeFileAndTheNextSaveTidiesUp) {
   bool done = false;
   for (int operation = 1; !done; ++operation) {
-    MemoryFileSystem files;
-    PutOldFile(files);
+    files.Put("/jobs/a.zeb", kOld);
     files.KillAt(operation);
     try {
       WriteFileSafely(files, "/jobs/a.zeb", kNew);
@@ -61,9 +60,7 @@ TEST(WriteFileSafelyTest, AKillAtAnyOperationLeavesAWholeFileAndTheNextSaveTidie
   }
 }
 
-TEST(WriteFileSafelyTest, RefusesWhatMustNotBeReplaced) {
-  MemoryFileSystem files;
-  PutOldFile(files);
+TEST_F(FileWriting, RefusesWhatMustNotBeReplaced) {
   files.SetReadOnly("/jobs/a.zeb");
   EXPECT_EQ(FailureOf([&] { WriteFileSafely(files, "/jobs/a.zeb", kNew); }), 75);
   EXPECT_EQ(FailureOf([&] { WriteFileSafely(files, "/jobs", kNew); }), 75);
@@ -71,19 +68,7 @@ TEST(WriteFileSafelyTest, RefusesWhatMustNotBeReplaced) {
   EXPECT_EQ(files.Bytes("/jobs/a.zeb"), kOld);
 }
 
-TEST(WriteFileSafelyTest, WritesWhereALinkPoints) {
-  MemoryFileSystem files;
-  PutOldFile(files);
-  files.PutFolder("/links");
-  files.PutLink("/links/a.zeb", "/jobs/a.zeb");
-  WriteFileSafely(files, "/links/a.zeb", kNew);
-  EXPECT_EQ(files.Bytes("/jobs/a.zeb"), kNew);
-  EXPECT_FALSE(files.Has("/links/a.zeb"));
-}
-
-TEST(CopyFileSafelyTest, KeepsTheOldCopyWhenItFails) {
-  MemoryFileSystem files;
-  PutOldFile(files);
+TEST_F(FileWriting, AFailedCopyKeepsTheOldOne) {
   files.Put("/jobs/b.zeb", kNew);
   files.FailAt(2, 61);
   EXPECT_EQ(FailureOf([&] { CopyFileSafely(files, "/jobs/b.zeb", "/jobs/a.zeb"); }), 61);
@@ -94,4 +79,4 @@ TEST(CopyFileSafelyTest, KeepsTheOldCopyWhenItFails) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

@@ -1,23 +1,21 @@
-#include "services/number_text.h"
-
+// Numbers as texts, and back.
 #include <gtest/gtest.h>
 
 #include <clocale>
 #include <cmath>
 #include <string>
+#include <tuple>
+#include <utility>
 
+#include "services/number_text.h"
+#include "services/units.h"
 #include "support/failure_of.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
 
-using test::FailureOf;
-
 TEST(ValTest, ReadsTheLongestNumberPrefix) {
-  const struct {
-    const char* text;
-    double value;
-  } cases[] = {
+  const std::pair<const char*, double> cases[] = {
       {"", 0.0},         {"  12.5mm", 12.5},
       {"+3", 3.0},       {"-.5", -0.5},
       {"1 2", 1.0},      {"\t7", 0.0},
@@ -31,7 +29,7 @@ TEST(ValTest, ReadsTheLongestNumberPrefix) {
       {"1e-400", 0.0},   {"0e999999999999", 0.0},
       {"-0", 0.0},       {"inf", 0.0},
   };
-  for (const auto& c : cases) EXPECT_EQ(Val(c.text), c.value) << c.text;
+  for (const auto& [text, value] : cases) EXPECT_EQ(Val(text), value) << text;
   EXPECT_FALSE(std::signbit(Val("-0")));
 }
 
@@ -70,10 +68,7 @@ TEST(ReadNumberFieldTest, TellsEmptyFromWrong) {
 }
 
 TEST(NumberTextTest, HasAtMostSevenSignificantDigits) {
-  const struct {
-    float value;
-    const char* text;
-  } cases[] = {
+  const std::pair<float, const char*> cases[] = {
       {0.0F, " 0"},
       {-0.0F, " 0"},
       {0.5F, " 0.5"},
@@ -90,18 +85,14 @@ TEST(NumberTextTest, HasAtMostSevenSignificantDigits) {
       {1.5E-10F, " 1.5E-10"},
       {123456.75F, " 123456.8"},
   };
-  for (const auto& c : cases) EXPECT_EQ(SignedText(c.value), c.text);
+  for (const auto& [value, text] : cases) EXPECT_EQ(SignedText(value), text);
   EXPECT_EQ(SignedText(12), " 12");
   EXPECT_EQ(SignedText(-3), "-3");
   EXPECT_EQ(PlainText(1.5F), "1.5");
 }
 
 TEST(FormatTest, RoundsHalfAwayFromZeroOnTheExactValue) {
-  const struct {
-    double value;
-    int decimals;
-    const char* text;
-  } cases[] = {
+  const std::tuple<double, int, const char*> cases[] = {
       {0.125, 2, "0.13"},
       {-0.125, 2, "-0.13"},
       {2.5, 0, "3"},
@@ -114,21 +105,15 @@ TEST(FormatTest, RoundsHalfAwayFromZeroOnTheExactValue) {
       {1234567.0, 1, "1234567.0"},
       {1e22, 0, "10000000000000000000000"},
       {5e-324, 1, "0.0"},
-      {0.0, 2, "0.00"},
-  };
-  for (const auto& c : cases) EXPECT_EQ(FormatDecimals(c.value, c.decimals), c.text);
+      {0.0, 2, "0.00"}};
+  for (const auto& [value, places, text] : cases) EXPECT_EQ(FormatDecimals(value, places), text);
   EXPECT_EQ(FormatDigits(7, 3), "007");
   EXPECT_EQ(FormatDigits(-7, 3), "-007");
   EXPECT_EQ(FormatDigits(12345, 3), "12345");
 }
 
 TEST(FixedNumberTest, FillsTheField) {
-  const struct {
-    float value;
-    int width;
-    int decimals;
-    const char* text;
-  } cases[] = {
+  const std::tuple<float, int, int, const char*> cases[] = {
       {0.0F, 8, 3, "   0.000"},
       {-1.5F, 8, 1, "    -1.5"},
       {1.5F, 8, -3, "  +1.500"},
@@ -144,10 +129,9 @@ TEST(FixedNumberTest, FillsTheField) {
       {-12.0F, 2, 0, "12"},                                    // the sign goes first
       {1.0F, 40, 0, "                                    1"},  // 35 blanks, the sign, the digit
       {2.5F, 3, 0, "  3"},
-      {-2.5F, 3, 0, " -3"},
-  };
-  for (const auto& c : cases) {
-    EXPECT_EQ(FixedNumber(c.value, c.width, c.decimals), c.text) << c.value;
+      {-2.5F, 3, 0, " -3"}};
+  for (const auto& [value, width, decimals, text] : cases) {
+    EXPECT_EQ(FixedNumber(value, width, decimals), text) << value;
   }
 }
 
@@ -164,5 +148,26 @@ TEST(FixedNumberTest, DropsAFractionOfAlmostNothing) {
   EXPECT_EQ(FixedNumber(0.0005F, 10, 6), "  0.000500");
 }
 
+TEST(UnitsTest, ShowsValuesInTheChosenUnit) {
+  const struct {
+    int unit;
+    const char *pressure, *pressure_unit, *flow, *flow_unit;
+  } cases[] = {{1, "1.500", "bar", "100.00", "L/min"},
+               {2, "150", "Kpa", "6000", "L/sec"},
+               {3, "22", "psi", "1585.0", "US gal/min"},  // 21.75 and 1585
+               {0, "", "", "", ""},
+               {4, "", "", "", ""}};
+  Units units;
+  EXPECT_EQ(units.PressureUnit(), "bar");
+  for (const auto& c : cases) {
+    units.SetPressureUnit(c.unit);
+    units.SetFlowUnit(c.unit);
+    EXPECT_EQ(units.FormatPressure(1.5F), c.pressure);
+    EXPECT_EQ(units.PressureUnit(), c.pressure_unit);
+    EXPECT_EQ(units.FormatFlow(100.0F), c.flow);
+    EXPECT_EQ(units.FlowUnit(), c.flow_unit);
+  }
+}
+
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

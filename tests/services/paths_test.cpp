@@ -3,32 +3,25 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <vector>
+#include <tuple>
 
 #include "services/find_file.h"
 #include "services/project_paths.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::TestSession;
 
 TEST(PathsTest, SplitsAtEitherSeparator) {
   const struct {
-    const char* path;
-    const char* folder;
-    const char* name;
-    const char* changed;
-  } cases[] = {
-      {"/a/b.c/JOB.ZEB", "/a/b.c", "JOB.ZEB", "/a/b.c/JOB.ZE!"},
-      {"C:\\jobs\\a.b.zeb", "C:\\jobs", "a.b.zeb", "C:\\jobs\\a.b.ZE!"},
-      {"/a.b/job", "/a.b", "job", "/a.b/job.ZE!"},
-      {"job.zeb", "", "job.zeb", "job.ZE!"},
-      {"/job.zeb", "/", "job.zeb", "/job.ZE!"},
-      {"/a//job.zeb", "/a", "job.zeb", "/a//job.ZE!"},
-      {"/a/", "/a", "", "/a/.ZE!"},
-  };
+    const char *path, *folder, *name, *changed;
+  } cases[] = {{"/a/b.c/JOB.ZEB", "/a/b.c", "JOB.ZEB", "/a/b.c/JOB.ZE!"},
+               {"C:\\jobs\\a.b.zeb", "C:\\jobs", "a.b.zeb", "C:\\jobs\\a.b.ZE!"},
+               {"/a.b/job", "/a.b", "job", "/a.b/job.ZE!"},
+               {"job.zeb", "", "job.zeb", "job.ZE!"},
+               {"/job.zeb", "/", "job.zeb", "/job.ZE!"},
+               {"/a//job.zeb", "/a", "job.zeb", "/a//job.ZE!"},
+               {"/a/", "/a", "", "/a/.ZE!"}};
   for (const auto& c : cases) {
     EXPECT_EQ(ReturnFolder(c.path), c.folder) << c.path;
     EXPECT_EQ(ReturnFileName(c.path), c.name) << c.path;
@@ -46,18 +39,13 @@ TEST(PathsTest, EndsAFolderInOneSeparator) {
 }
 
 TEST(PathsTest, ShortensMiddleFoldersOneByOne) {
-  const struct {
-    const char* path;
-    int length;
-    const char* text;
-  } cases[] = {
+  const std::tuple<const char*, int, const char*> cases[] = {
       {"/home/user/jobs/JOB.ZEB", 40, "/home/user/jobs/JOB.ZEB"},
       {"/home/user/jobs/JOB.ZEB", 22, "/home/../jobs/JOB.ZEB"},
       {"/home/user/jobs/JOB.ZEB", 5, "/home/../../JOB.ZEB"},
       {"C:\\Documents\\Projects\\JOB.ZEB", 25, "C:\\..\\Projects\\JOB.ZEB"},
-      {"JOB.ZEB", 3, "JOB.ZEB"},
-  };
-  for (const auto& c : cases) EXPECT_EQ(ShortPath(c.path, c.length), c.text);
+      {"JOB.ZEB", 3, "JOB.ZEB"}};
+  for (const auto& [path, length, text] : cases) EXPECT_EQ(ShortPath(path, length), text);
 }
 
 TEST(PathsTest, ComparesWithoutCaseOrKindOfSeparator) {
@@ -66,45 +54,42 @@ TEST(PathsTest, ComparesWithoutCaseOrKindOfSeparator) {
   EXPECT_FALSE(SamePathNoCase("/a/b", "/ab"));
 }
 
-TEST(RealPathTest, PrefersThePickThenTheExactFileThenTheMatch) {
-  TestSession test;
-  test.files.Put("/home/Ann/Jobs/Mill.zeb", "");
-  EXPECT_EQ(RealPath(test.session, "/HOME/ANN/JOBS/MILL.ZEB"), "/home/Ann/Jobs/Mill.zeb");
+struct RealPathTest : testing::Test, TestSession {};
 
-  TestSession exact;
-  exact.files.Put("/jobs/Mill.zeb", "");
-  exact.files.Put("/jobs/MILL.ZEB", "");
-  EXPECT_EQ(RealPath(exact.session, "/jobs/MILL.ZEB"), "/jobs/MILL.ZEB");
-  RememberRealPath(exact.session, "/jobs/Mill.zeb");
-  EXPECT_EQ(RealPath(exact.session, "/JOBS/MILL.ZEB"), "/jobs/Mill.zeb");
-  EXPECT_TRUE(exact.dialogs.messages.empty());
+TEST_F(RealPathTest, PrefersThePickThenTheExactFileThenTheMatch) {
+  files.Put("/home/Ann/Jobs/Mill.zeb", "");
+  EXPECT_EQ(RealPath(session, "/HOME/ANN/JOBS/MILL.ZEB"), "/home/Ann/Jobs/Mill.zeb");
+  files.Put("/jobs/Mill.zeb", "");
+  files.Put("/jobs/MILL.ZEB", "");
+  EXPECT_EQ(RealPath(session, "/jobs/MILL.ZEB"), "/jobs/MILL.ZEB");
+  RememberRealPath(session, "/jobs/Mill.zeb");
+  EXPECT_EQ(RealPath(session, "/JOBS/MILL.ZEB"), "/jobs/Mill.zeb");
+  EXPECT_TRUE(dialogs.messages.empty());
 }
 
-TEST(RealPathTest, AsksWhenSeveralFilesMatchAndKeepsTheAnswer) {
-  TestSession test;
-  test.files.Put("/a/mill.zeb", "");
-  test.files.Put("/a/Mill.zeb", "");
-  test.files.Put("/A/MILL.zeb", "");
+TEST_F(RealPathTest, AsksWhenSeveralFilesMatchAndKeepsTheAnswer) {
+  files.Put("/a/mill.zeb", "");
+  files.Put("/a/Mill.zeb", "");
+  files.Put("/A/MILL.zeb", "");
   const std::string stated = "/A/MILL.ZEB";
-  EXPECT_EQ(RealPath(test.session, stated), stated) << "no guess without an answer";
-  EXPECT_EQ(test.dialogs.messages.size(), 3U);
-  test.dialogs.answers = {Answer::kNo, Answer::kYes};
-  EXPECT_EQ(RealPath(test.session, stated), "/a/Mill.zeb");
-  test.dialogs.messages.clear();
-  EXPECT_EQ(RealPath(test.session, stated), "/a/Mill.zeb");
-  EXPECT_TRUE(test.dialogs.messages.empty());
+  EXPECT_EQ(RealPath(session, stated), stated) << "no guess without an answer";
+  EXPECT_EQ(dialogs.messages.size(), 3U);
+  dialogs.answers = {Answer::kNo, Answer::kYes};
+  EXPECT_EQ(RealPath(session, stated), "/a/Mill.zeb");
+  dialogs.messages.clear();
+  EXPECT_EQ(RealPath(session, stated), "/a/Mill.zeb");
+  EXPECT_TRUE(dialogs.messages.empty());
 }
 
-TEST(RealPathTest, NamesANewFileAsTyped) {
-  TestSession test;
-  test.files.PutFolder("/home/Ann");
-  RememberRealPath(test.session, "/home/Ann/New Job.zeb");
-  test.session.project.ProjectPath = "/HOME/ANN/NEW JOB.ZEB";
-  EXPECT_EQ(RealProjectPath(test.session), "/home/Ann/New Job.zeb");
-  EXPECT_EQ(RealPath(test.session, "/HOME/ANN/OTHER.ZEB"), "/home/Ann/OTHER.ZEB");
-  EXPECT_EQ(RealPath(test.session, "/NO/WHERE.ZEB"), "/NO/WHERE.ZEB");
-  EXPECT_EQ(RealPath(test.session, "[Untitled]"), "[Untitled]");
+TEST_F(RealPathTest, NamesANewFileAsTyped) {
+  files.PutFolder("/home/Ann");
+  RememberRealPath(session, "/home/Ann/New Job.zeb");
+  session.project.ProjectPath = "/HOME/ANN/NEW JOB.ZEB";
+  EXPECT_EQ(RealProjectPath(session), "/home/Ann/New Job.zeb");
+  EXPECT_EQ(RealPath(session, "/HOME/ANN/OTHER.ZEB"), "/home/Ann/OTHER.ZEB");
+  EXPECT_EQ(RealPath(session, "/NO/WHERE.ZEB"), "/NO/WHERE.ZEB");
+  EXPECT_EQ(RealPath(session, "[Untitled]"), "[Untitled]");
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

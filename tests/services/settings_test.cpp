@@ -4,7 +4,6 @@
 
 #include <functional>
 #include <string>
-#include <vector>
 
 #include "services/component_failure.h"
 #include "services/form_position.h"
@@ -12,13 +11,8 @@
 #include "support/failure_of.h"
 #include "support/test_session.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
-
-using test::FailureOf;
-using test::MemoryFileSystem;
-using test::TestSession;
-using Texts = std::vector<std::string>;
 
 constexpr const char* kIni = "/config/ZEB/zeb.ini";
 
@@ -32,13 +26,20 @@ std::string ReasonOf(const std::function<void()>& action) {
   return {};
 }
 
-TEST(IniFileTest, ReadsWhatOthersWrote) {
+struct IniFileTest : testing::Test {
+  void Open(const std::string& text) {
+    files.Put("/a.ini", text);
+    ini.Init("/a.ini");
+  }
+
   MemoryFileSystem files;
-  files.Put("/a.ini",
-            "; a note\n[ Text ]\n colour = 12 \nFontName=\" Arial \"\n;Colour=9\nEmpty=\n"
-            "[Other]\nColour=7\n[TEXT]\nSize=8.5mm\nColour=1");
-  CIniFile ini(files);
-  ini.Init("/a.ini");
+  CIniFile ini{files};
+};
+
+TEST_F(IniFileTest, ReadsWhatOthersWrote) {
+  Open(
+      "; a note\n[ Text ]\n colour = 12 \nFontName=\" Arial \"\n;Colour=9\nEmpty=\n"
+      "[Other]\nColour=7\n[TEXT]\nSize=8.5mm\nColour=1");
   EXPECT_EQ(ini.GetStringValue("text", "COLOUR", "x"), "12") << "the first one counts";
   EXPECT_EQ(ini.GetStringValue("Text", "FontName", "x"), " Arial ");
   EXPECT_EQ(ini.GetStringValue("Text", "Empty", "x"), "");
@@ -50,11 +51,8 @@ TEST(IniFileTest, ReadsWhatOthersWrote) {
   EXPECT_EQ(ini.EnumerateAllKeys("other"), Texts{"Colour"});
 }
 
-TEST(IniFileTest, ChangesOneLineAndKeepsTheRest) {
-  MemoryFileSystem files;
-  files.Put("/a.ini", "; note\n[A]\nx=1\nodd line\n\n[B]\nx=2\n");
-  CIniFile ini(files);
-  ini.Init("/a.ini");
+TEST_F(IniFileTest, ChangesOneLineAndKeepsTheRest) {
+  Open("; note\n[A]\nx=1\nodd line\n\n[B]\nx=2\n");
   ini.SaveStringValue("a", "y", "new");
   ini.SaveStringValue("B", "X", " 3");
   ini.SaveNumericValue("C", "z", 0.1);
@@ -65,11 +63,8 @@ TEST(IniFileTest, ChangesOneLineAndKeepsTheRest) {
   EXPECT_EQ(files.Bytes("/a.ini"), "; note\r\n[A]\r\nodd line\r\ny=new\r\n\r\n[C]\r\nz=0.1\r\n");
 }
 
-TEST(IniFileTest, ValuesComeBackAsTheyWereSaved) {
-  MemoryFileSystem files;
-  files.Put("/a.ini", "");
-  CIniFile ini(files);
-  ini.Init("/a.ini");
+TEST_F(IniFileTest, ValuesComeBackAsTheyWereSaved) {
+  Open("");
   for (const char* value : {"", " ", "\t", "\"quoted\"", "a=b;c", "[x]", " \"", "BS 9251 : R"}) {
     ini.SaveStringValue("S", "K", value);
     EXPECT_EQ(ini.GetStringValue("S", "K", "none"), value);
@@ -79,31 +74,30 @@ TEST(IniFileTest, ValuesComeBackAsTheyWereSaved) {
   EXPECT_EQ(ini.EnumerateAllSections(), Texts{"S"});
 }
 
-TEST(IniFileTest, SaysWhatIsMissing) {
-  MemoryFileSystem files;
-  files.Put("/a.ini", "");
-  CIniFile ini(files);
+TEST_F(IniFileTest, SaysWhatIsMissing) {
   const std::string head = "CIniFile component failure\r\n";
   EXPECT_EQ(ReasonOf([&] { (void)ini.EnumerateAllSections(); }),
             head + "Object not properly initialized");
   EXPECT_EQ(ReasonOf([&] { ini.Init(""); }), head + "Invalid file name");
   ini.Init("/none.ini");
   EXPECT_EQ(ReasonOf([&] { ini.SaveStringValue("", "", "x"); }), head + "File not found");
-  ini.Init("/a.ini");
+  Open("");
   EXPECT_EQ(ReasonOf([&] { (void)ini.GetStringValue(" ", "", "x"); }), head + "Invalid section");
   EXPECT_EQ(ReasonOf([&] { (void)ini.GetStringValue("S", "", "x"); }), head + "Invalid key");
   EXPECT_EQ(ReasonOf([&] { ini.SaveStringValue("S", "a=b", "x"); }), head + "Invalid key");
   EXPECT_EQ(files.Bytes("/a.ini"), "");
 }
 
-TEST(SettingsTest, KeepsTheThreeStoresApart) {
-  TestSession test;
-  Settings& settings = test.session.settings;
+struct SettingsTest : testing::Test, TestSession {
+  Settings& settings = session.settings;
+};
+
+TEST_F(SettingsTest, KeepsTheThreeStoresApart) {
   EXPECT_EQ(settings.GetIniValue(setting::kNodeStep), "10");
   EXPECT_FALSE(settings.HasIniValue(setting::kAutoSave));
   settings.SetIniValue(setting::kCalcCsvDelimiter, ";");
   settings.SaveSetting("Options", "PDT_folder", "/pipes/");
-  test.files.Put("/prog/ZEB_config.ini", "[Report]\r\nheader=Our report\r\n");
+  files.Put("/prog/ZEB_config.ini", "[Report]\r\nheader=Our report\r\n");
 
   EXPECT_EQ(settings.GetIniValue(setting::kCalcCsvDelimiter), ";");
   EXPECT_EQ(settings.GetIniValue(setting::kDataExportDelimiter), ",") << "same key, other section";
@@ -111,40 +105,37 @@ TEST(SettingsTest, KeepsTheThreeStoresApart) {
   EXPECT_EQ(settings.GetSetting("Options", "PDT_folder", ""), "/pipes/");
   EXPECT_EQ(settings.GetIniValue("Options", "PDT_folder", "none"), "none");
   EXPECT_EQ(settings.GetConfigValue(setting::kReportHeader), "Our report");
-  EXPECT_EQ(test.files.Bytes(kIni), "[CalcCSV]\r\nDeliniter=;\r\n");
+  EXPECT_EQ(files.Bytes(kIni), "[CalcCSV]\r\nDeliniter=;\r\n");
 }
 
-TEST(SettingsTest, WithoutAFolderAnswersDefaultsAndDropsTheRest) {
-  TestSession test;
-  test.session.settings.Locate("", "");
-  const auto before = test.files.AllFiles();
-  test.session.settings.SetIniValue(setting::kTextColour, "3");
-  test.session.settings.SaveSetting("Options", "PDT_folder", "/x");
-  EXPECT_EQ(test.session.settings.GetIniValue(setting::kTextColour), "12");
-  EXPECT_EQ(test.session.settings.GetSetting("Options", "PDT_folder", "d"), "d");
-  EXPECT_EQ(test.files.AllFiles(), before);
+TEST_F(SettingsTest, WithoutAFolderAnswersDefaultsAndDropsTheRest) {
+  settings.Locate("", "");
+  const auto before = files.AllFiles();
+  settings.SetIniValue(setting::kTextColour, "3");
+  settings.SaveSetting("Options", "PDT_folder", "/x");
+  EXPECT_EQ(settings.GetIniValue(setting::kTextColour), "12");
+  EXPECT_EQ(settings.GetSetting("Options", "PDT_folder", "d"), "d");
+  EXPECT_EQ(files.AllFiles(), before);
 }
 
-TEST(SettingsTest, AFullDiskLeavesTheOldSettings) {
-  TestSession test;
-  test.session.settings.SetIniValue(setting::kTextColour, "3");
-  test.files.FailAt(2, 61);  // the read, then the write
-  EXPECT_EQ(FailureOf([&] { test.session.settings.SetIniValue(setting::kTextColour, "4"); }), 61);
-  test.files.StopFailing();
-  EXPECT_EQ(test.session.settings.GetIniValue(setting::kTextColour), "3");
+TEST_F(SettingsTest, AFullDiskLeavesTheOldSettings) {
+  settings.SetIniValue(setting::kTextColour, "3");
+  files.FailAt(2, 61);  // the read, then the write
+  EXPECT_EQ(FailureOf([&] { settings.SetIniValue(setting::kTextColour, "4"); }), 61);
+  files.StopFailing();
+  EXPECT_EQ(settings.GetIniValue(setting::kTextColour), "3");
 }
 
-TEST(FormPositionTest, IsCentredUntilStored) {
-  TestSession test;
-  EXPECT_FALSE(LoadFormPos(test.session.settings, "ZEBF03").top);
-  SaveFormPos(test.session.settings, "ZEBF03", {.top = -5, .left = 20, .width = {}, .height = 400});
-  const FormPosition stored = LoadFormPos(test.session.settings, "ZEBF03");
+TEST_F(SettingsTest, IsCentredUntilStored) {
+  EXPECT_FALSE(LoadFormPos(settings, "ZEBF03").top);
+  SaveFormPos(settings, "ZEBF03", {.top = -5, .left = 20, .width = {}, .height = 400});
+  const FormPosition stored = LoadFormPos(settings, "ZEBF03");
   EXPECT_EQ(stored.top, -5);
   EXPECT_EQ(stored.left, 20);
   EXPECT_FALSE(stored.width);
   EXPECT_EQ(stored.height, 400);
-  EXPECT_EQ(test.session.settings.GetSetting("FormPos", "ZEBF03_Left", ""), "20");
+  EXPECT_EQ(settings.GetSetting("FormPos", "ZEBF03_Left", ""), "20");
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

@@ -3,12 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "services/code_page.h"
 #include "services/dates.h"
 
-namespace zeb {
+namespace zeb::test {
 namespace {
 
 using Texts = std::vector<std::string>;
@@ -19,12 +20,9 @@ TEST(TextTest, UpperCasesTheLettersOfTheCodePage) {
 }
 
 TEST(TextTest, CutsByCharactersFromOne) {
-  const struct {
-    int start;
-    int length;
-    const char* text;
-  } cases[] = {{1, 2, "ab"}, {3, 9, "c"}, {4, 1, ""}, {9, 1, ""}, {2, 0, ""}, {2, -1, ""}};
-  for (const auto& c : cases) EXPECT_EQ(Mid("abc", c.start, c.length), c.text);
+  const std::tuple<int, int, const char*> cases[] = {{1, 2, "ab"}, {3, 9, "c"}, {4, 1, ""},
+                                                     {9, 1, ""},   {2, 0, ""},  {2, -1, ""}};
+  for (const auto& [start, length, text] : cases) EXPECT_EQ(Mid("abc", start, length), text);
   EXPECT_EQ(Mid("abc", 2), "bc");
   EXPECT_EQ(Mid("abc", 5), "");
   EXPECT_EQ(Left("abc", 5), "abc");
@@ -80,4 +78,4 @@ TEST(DatesTest, HaveFixedForms) {
 }
 
 }  // namespace
-}  // namespace zeb
+}  // namespace zeb::test

@@ -19,7 +19,6 @@ class MemoryFileSystem final : public FileSystem {
   // Set the disk up and look at it, without counting or failing.
   void Put(const std::string& path, const std::string& bytes);
   void PutFolder(const std::string& folder);
-  void PutLink(const std::string& path, const std::string& target) { links_[path] = target; }
   void SetReadOnly(const std::string& path) { read_only_.insert(path); }
   void SetTime(const std::string& path, const DateTime& time) { times_[path] = time; }
   [[nodiscard]] bool Has(const std::string& path) const { return files_.contains(path); }
@@ -70,7 +69,6 @@ class MemoryFileSystem final : public FileSystem {
 
   std::map<std::string, std::string> files_;
   std::map<std::string, DateTime> times_;
-  std::map<std::string, std::string> links_;
   std::set<std::string> folders_{"/"};
   std::set<std::string> read_only_;
   int operations_ = 0;

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <fstream>
-#include <sstream>
 #include <string>
 
 #include "check/check_project.h"
@@ -9,17 +7,10 @@
 #include "lifecycle/startup.h"
 #include "project/project_location.h"
 #include "project/project_reader.h"
+#include "support/real_file.h"
 #include "support/test_session.h"
 
 namespace zeb::test {
-
-// The bytes of a file of this machine.
-inline std::string RealFile(const std::string& path) {
-  const std::ifstream file(path, std::ios::binary);
-  std::ostringstream bytes;
-  bytes << file.rdbuf();
-  return bytes.str();
-}
 
 // A session over fakes whose commands are the real ones, started without a window and with the
 // shipped pipe data, authorities and head codes: what benchmarks, fuzzers and tests of whole

@@ -3,8 +3,9 @@
 #include <string>
 #include <vector>
 
-#include "model/limits.h"
+#include "model/project.h"
 #include "services/text.h"
+#include "support/slots.h"
 
 namespace zeb::test {
 
@@ -26,6 +27,16 @@ inline std::vector<std::string> Joined(std::vector<std::string> lines,
                                        const std::vector<std::string>& more) {
   lines.insert(lines.end(), more.begin(), more.end());
   return lines;
+}
+
+// Makes the texts the project's lines from `first` on, up to its last.
+inline void SetLines(Project& project, const std::vector<std::string>& texts, int first = 1) {
+  project.LineCount = first - 1;
+  for (const std::string& text : texts) project.PipeLines[++project.LineCount] = text;
+}
+
+inline std::vector<std::string> LinesOf(const Project& project, int first = 1) {
+  return Slots(project.PipeLines, first, project.LineCount);
 }
 
 }  // namespace zeb::test

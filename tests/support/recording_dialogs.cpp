@@ -37,10 +37,16 @@ std::string RecordingDialogs::SaveFile(const FileDialog& dialog) {
   return NextOr(save_answers, std::string());
 }
 
-std::vector<std::string> RecordingDialogs::Titles() const {
-  std::vector<std::string> titles;
+Texts RecordingDialogs::Titles() const {
+  Texts titles;
   for (const Message& message : messages) titles.push_back(message.title);
   return titles;
+}
+
+Boxes RecordingDialogs::Shown() const {
+  Boxes boxes;
+  for (const Message& message : messages) boxes.emplace_back(message.title, message.text);
+  return boxes;
 }
 
 }  // namespace zeb::test

@@ -3,11 +3,16 @@
 #include <deque>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/dialogs.h"
 
 namespace zeb::test {
+
+using Texts = std::vector<std::string>;
+using ShownBox = std::pair<std::string, std::string>;  // title and text
+using Boxes = std::vector<ShownBox>;
 
 // Keeps every box that was shown and answers from the scripted queues. With an empty queue a
 // message takes its default answer, an input keeps its initial text, a file dialog is cancelled.
@@ -26,7 +31,9 @@ class RecordingDialogs final : public Dialogs {
   std::string SaveFile(const FileDialog& dialog) override;
 
   // The titles of all messages, in order.
-  [[nodiscard]] std::vector<std::string> Titles() const;
+  [[nodiscard]] Texts Titles() const;
+  // The titles and texts of all messages, in order.
+  [[nodiscard]] Boxes Shown() const;
 
   std::vector<Message> messages;
   std::vector<InputBox> inputs;

@@ -22,6 +22,7 @@ struct TestSession {
   FakeArchive archive;
   FakeClipboard clipboard;
   Session session{Platform{dialogs, shell, commands, files, clock, machine, archive, clipboard}};
+  Project& project = session.project;
 };
 
 }  // namespace zeb::test

@@ -174,6 +174,7 @@ void DrawView(Session& session, DrawingSurface& surface) {
 
 void ShowViewTitle(Session& session) {
   const Project& project = session.project;
+  if (project.ViewTitle.empty()) return;  // before the first project
   std::string text = project.ViewTitle + " - " + project.ViewHint;
   if (HeightsRestricted(project) && project.ViewMode > view::kPlan && IsZoomed(project)) {
     text = project.ViewTitle + " showing pipes with midpoints between " +

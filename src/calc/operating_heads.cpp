@@ -44,6 +44,7 @@ void ShowPickPrompt(Session& session) {
 // The results that stand belong to other heads.
 void BeginPick(Session& session) {
   ReadIfNoSizes(session);
+  session.platform.commands.ViewCommandReset();
   Project& project = session.project;
   project.SelectedHeadsMode = 1;
   project.ModelState = model_state::kRead;

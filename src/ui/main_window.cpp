@@ -179,6 +179,10 @@ void MainWindow::Run(const std::string& procedure, const CommandRunner::Statemen
   runner_.RunCommand(kModule, procedure, statement);
   if (runner_.IsRunning()) return;
   if (isActiveWindow()) Activate();
+  runner_.RunEvent(kModule, "Renew", [this] {
+    pointer_.Details().Renew();
+    pointer_.Inspector().Renew();
+  });
   if (recovery_ != nullptr) runner_.RunEvent(kModule, "Keep", [this] { recovery_->Keep(); });
 }
 

@@ -1,19 +1,22 @@
 #include "view/pipe_details_form.h"
 
+#include <utility>
+
 #include "view/pipe_details.h"
 #include "view/pipe_highlight.h"
+#include "view/pipe_properties.h"
 #include "view/pointer_command.h"
 
 namespace zeb {
 
 void PipeDetailsForm::ShowPickedPipe() {
   Project& project = session_.project;
-  const int pipe = project.PickedPipe;
-  HighlightPipe(project, surface_, pipe);
-  Details = ShowPipeDetails(session_, pipe);
-  NextVisible = pipe < project.PipeCount;
-  PreviousVisible = pipe > 1;
-  UpStreamVisible = pipe > 1;
+  pipe_ = project.PickedPipe;
+  HighlightPipe(project, surface_, pipe_);
+  Details = ShowPipeDetails(session_, pipe_);
+  NextVisible = pipe_ < project.PipeCount;
+  PreviousVisible = pipe_ > 1;
+  UpStreamVisible = pipe_ > 1;
   Shell& shell = session_.platform.shell;
   if (open_) {
     shell.Refresh(*this);
@@ -21,6 +24,15 @@ void PipeDetailsForm::ShowPickedPipe() {
     open_ = true;
     shell.Open(*this);
   }
+}
+
+void PipeDetailsForm::Renew() {
+  if (!open_) return;
+  const bool there = IsInNetwork(session_.project, pipe_);
+  std::string details = there ? ShowPipeDetails(session_, pipe_) : std::string();
+  if (details == Details) return;
+  Details = std::move(details);
+  session_.platform.shell.Refresh(*this);
 }
 
 void PipeDetailsForm::cmdNext_Click() { StepTo(session_.project.PickedPipe + 1); }

@@ -22,6 +22,8 @@ class PipeDetailsForm : public Form {
 
   // Shows PickedPipe, opening the window when it is closed.
   void ShowPickedPipe();
+  // Shows what has become of the pipe, empty when it is not there any more.
+  void Renew();
 
   void cmdNext_Click();
   void cmdPrevious_Click();
@@ -44,6 +46,7 @@ class PipeDetailsForm : public Form {
   Session& session_;
   DrawingSurface& surface_;
   bool open_ = false;
+  int pipe_ = 0;
 };
 
 }  // namespace zeb

@@ -24,6 +24,8 @@ class PipeInspectorForm : public Form {
   void munInspect();
   // The pipe to show, 0 for none; nothing happens while the window is closed.
   void SetData(int pipe);
+  // Shows what has become of the pipe, nothing when it is not there any more.
+  void Renew();
   // The window was closed.
   void Form_Unload() { open_ = false; }
 
@@ -33,6 +35,7 @@ class PipeInspectorForm : public Form {
   Session& session_;
   DrawingSurface& surface_;
   bool open_ = false;
+  int pipe_ = 0;
 };
 
 }  // namespace zeb

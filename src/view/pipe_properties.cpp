@@ -86,6 +86,10 @@ void Append(Properties& rows, Properties more) {
 
 }  // namespace
 
+bool IsInNetwork(const Project& project, int pipe) {
+  return pipe >= 1 && pipe <= project.PipeCount && project.CheckBroken == 0;
+}
+
 std::vector<PipeProperty> PipeProperties(const Project& project, int pipe) {
   Properties rows = PipeRows(project, pipe);
   if (IsCalculated(project)) Append(rows, ResultRows(project, pipe));

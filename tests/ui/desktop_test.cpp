@@ -144,6 +144,12 @@ TEST_F(DesktopTest, ShowsThePipeThatIsPressedAndStepsOn) {
 
   QTest::mouseClick(details->findChild<QPushButton*>("cmdNext"), Qt::LeftButton);
   EXPECT_EQ(TheProject().PickedPipe, pressed + 1);
+  const QString before = text();
+  user.Press("frmUndo", "cmdCancel");
+  TheProject().PipeSize[pressed] = TheProject().PipeSize[pressed + 1] = 99;
+  Pick("Fundo");
+  EXPECT_NE(text(), before) << "the windows keep up with the network";
+  EXPECT_EQ(list->topLevelItem(1)->text(1).left(4), "99mm");
   QTest::keyClick(details, Qt::Key_Escape);
   EXPECT_FALSE(details->isVisible());
   QTest::mouseClick(&Picture(), Qt::LeftButton, {}, MiddleOf(5));

@@ -3,12 +3,14 @@
 #include <functional>
 #include <vector>
 
+#include "lifecycle/session_state.h"
 #include "project/open_project.h"
 #include "project/project_location.h"
 #include "project/project_reader.h"
 #include "project/project_writer.h"
 #include "services/dates.h"
 #include "services/file_writing.h"
+#include "services/number_text.h"
 #include "services/paths.h"
 #include "services/project_paths.h"
 #include "services/text.h"
@@ -46,7 +48,31 @@ std::size_t Recovery::Content() const {
   return hash;
 }
 
+std::size_t Recovery::Supplies() const {
+  const Project& project = session_.project;
+  std::size_t hash = 17;
+  for (int row = 1; row <= project.SupplyCount; ++row) {
+    Mix(hash, project.SupplyNames[row]);
+    for (const float value : project.SupplyTable[row]) Mix(hash, PlainText(value));
+  }
+  return hash;
+}
+
 void Recovery::Keep() {
+  KeepProject();
+  KeepSupplies();
+}
+
+void Recovery::KeepSupplies() {
+  const std::size_t supplies = Supplies();
+  if (supplies == kept_supplies_) return;
+  kept_supplies_ = supplies;
+  Try(&Recovery::WriteSession);
+}
+
+void Recovery::WriteSession() { WriteSessionState(session_); }
+
+void Recovery::KeepProject() {
   const Project& project = session_.project;
   if (project.DataChanged <= 0 || project.LineCount <= kFewestLines) {
     if (kept_) Drop();
@@ -56,14 +82,18 @@ void Recovery::Keep() {
   if (kept_ && content == kept_content_) return;
   kept_content_ = content;
   kept_ = true;
+  Try(&Recovery::WriteCopy);
+}
+
+void Recovery::Try(void (Recovery::*write)()) {
   try {
-    Write();
+    (this->*write)();
   } catch (const RuntimeFailure& failure) {
     session_.log.LogError({.text = failure.Description(), .source = "ZEB.Recovery.Keep"});
   }
 }
 
-void Recovery::Write() {
+void Recovery::WriteCopy() {
   WriteProjectCopy(session_, CopyPath());
   const DateTime now = session_.platform.clock.Now();
   WriteFileSafely(session_.platform.files, NotePath(),
@@ -72,6 +102,7 @@ void Recovery::Write() {
 }
 
 bool Recovery::Offer() {
+  kept_supplies_ = Supplies();
   FileSystem& files = session_.platform.files;
   if (!files.FileExists(NotePath()) || !files.FileExists(CopyPath())) return false;
   std::vector<std::string> note = SplitLines(files.ReadFile(NotePath()));

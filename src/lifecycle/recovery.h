@@ -13,12 +13,13 @@ class Recovery {
  public:
   explicit Recovery(Session& session) : session_(session) {}
 
-  // To be called after each command: writes the copy when unsaved changes are new, drops it once
-  // there are none. A copy that cannot be written is no failure of the command.
-  void Keep();
-  // Offers what a session that was cut off has left. True when the user took it; the project then
-  // counts as changed.
+  // To be called first: offers what a session that was cut off has left. True when the user took
+  // it; the project then counts as changed.
   bool Offer();
+  // To be called after each command: writes the copy when unsaved changes are new, drops it once
+  // there are none, and writes the session file when a supply is new. A file that cannot be written
+  // is no failure of the command.
+  void Keep();
   // The session ends as it should.
   void Drop();
 
@@ -26,11 +27,17 @@ class Recovery {
   [[nodiscard]] std::string CopyPath() const;
   [[nodiscard]] std::string NotePath() const;
   [[nodiscard]] std::size_t Content() const;
-  void Write();
+  [[nodiscard]] std::size_t Supplies() const;
+  void KeepProject();
+  void KeepSupplies();
+  void Try(void (Recovery::*write)());
+  void WriteCopy();
+  void WriteSession();
   void Restore(const std::string& project_path);
 
   Session& session_;
   std::size_t kept_content_ = 0;
+  std::size_t kept_supplies_ = 0;
   bool kept_ = false;
 };
 

@@ -75,6 +75,19 @@ TEST_F(RecoveryTest, DropsTheCopyThatTheUserDoesNotWant) {
   EXPECT_FALSE(Recovery(next_.session).Offer()) << "and asks no more";
 }
 
+TEST_F(RecoveryTest, KeepsNewSuppliesAtOnce) {
+  Project& project = next_.session.project;
+  const std::string& path = next_.session.folders.SessionFile;
+  Recovery recovery(next_.session);
+  recovery.Offer();
+  recovery.Keep();
+  EXPECT_FALSE(next_.files.FileExists(path)) << "nothing is new";
+  project.SupplyCount = 1;
+  project.SupplyNames[1] = "Diesel pump";
+  recovery.Keep();
+  EXPECT_NE(next_.files.ReadFile(path).find("PUMP=Diesel pump"), std::string::npos);
+}
+
 TEST_F(RecoveryTest, LeavesNothingBehindOnceSaved) {
   ProgramRun run(next_);
   next_.session.project.LineCount = 20;

@@ -84,7 +84,9 @@ void FsaveVersion(Session& session) {
   const std::string path = FreeVersionPath(session.platform.files, RealProjectPath(session));
   const Int16 changed = project.DataChanged;
   if (!SaveProject(session, SaveMode::kVersion3, path)) return;
-  project.DataChanged = changed;  // the project's own file is as old as before
+  // The project's own file is as old as before.
+  project.DataChanged = changed;
+  if (changed > 0) session.platform.shell.SetPanelPicture(Panel::kSaveState, kPictureUnsaved);
   session.platform.dialogs.Show({.title = "ZEB Project File - Version Save",
                                  .text = "The ZEB project has just been saved as:" +
                                          std::string(kLineBreak) + ReturnFileName(path),

@@ -129,7 +129,8 @@ TEST_F(SaveCommands, VersionsAreNumbered) {
               std::string("The ZEB project has just been saved as:\r\n") + name);
   }
   EXPECT_EQ(project.ProjectPath, "/JOBS/JOB.ZEB");
-  EXPECT_EQ(project.DataChanged, 1);  // the project's own file still lacks the change
+  EXPECT_EQ(project.DataChanged, 1) << "the project's own file still lacks the change";
+  EXPECT_EQ(shell.pictures[Panel::kSaveState], "disk_save_BW");
 
   OpenProject(session, "/jobs/job_Ver1.zeb");
   FsaveVersion(session);

@@ -58,6 +58,7 @@ void ProjectDataForm::LoadItems() {
   }
   loaded_items_ = items_;
   if (IsNewProject()) LoadNewProjectItems();
+  offered_items_ = items_;
 }
 
 void ProjectDataForm::LoadNewProjectItems() {
@@ -214,6 +215,15 @@ void ProjectDataForm::cmdCancel_Click() {
   session_.platform.shell.Close(*this);
   RenewTables();
   session_.platform.shell.Redraw();
+}
+
+void ProjectDataForm::Form_QueryUnload() {
+  const bool typed = items_ != offered_items_ || Text.Edited();
+  if (typed && !UserAgrees(session_.platform.dialogs, "Project data",
+                           "Do you wish to drop the changes that you have just typed?")) {
+    return;
+  }
+  cmdCancel_Click();
 }
 
 // Head codes and supplies are changed at once, so that the tables and results of a cancelled form

@@ -23,6 +23,8 @@ class ProjectDataForm : public Form {
   void Form_Load();
   void cmdApply_Click();
   void cmdCancel_Click();
+  // Esc and the frame's button: Cancel, but not by mistake.
+  void Form_QueryUnload();
   void cmdIssue_Click();
   void cmdDWF_Click();
   void cmdCompact_Click();
@@ -67,7 +69,8 @@ class ProjectDataForm : public Form {
   Session& session_;
   ItemTexts items_;
   ItemTexts loaded_items_;
-  int changes_ = 0;  // counted ones; changed texts are found by comparison
+  ItemTexts offered_items_;  // with the choices of a new project
+  int changes_ = 0;          // counted ones; changed texts are found by comparison
   bool references_read_ = false;
 };
 

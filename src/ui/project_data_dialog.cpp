@@ -29,7 +29,7 @@ ProjectDataDialog::ProjectDataDialog(const Ui& ui, ProjectDataForm& form, QWidge
   OnClick(AddButton(*buttons, "cmdCancel", tr("&Cancel"), QDialogButtonBox::RejectRole,
                     tr("Leaves the project data as they were")),
           "cmdCancel_Click", [this] { form_.cmdCancel_Click(); });
-  OnDismiss("cmdCancel_Click", [this] { form_.cmdCancel_Click(); });
+  OnDismiss("Form_QueryUnload", [this] { form_.Form_QueryUnload(); });
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(pages);
   layout->addWidget(buttons);

@@ -184,6 +184,22 @@ TEST_F(ProjectData, TooManyLinesLeaveTheFormOpen) {
   EXPECT_TRUE(commands.checks.empty());
 }
 
+TEST_F(ProjectData, EscAsksBeforeTypedTextsAreDropped) {
+  form.Form_Load();
+  form.Text.Boxes[1] += "3 4 50 2.0 E\r\n";
+  dialogs.answers = {Answer::kNo, Answer::kYes};
+  form.Form_QueryUnload();
+  EXPECT_TRUE(shell.closed_forms.empty());
+  form.Form_QueryUnload();
+  EXPECT_EQ(shell.closed_forms, Texts{"ZEBF02"});
+
+  BeginNewProject();
+  ProjectDataForm untouched(session);
+  untouched.Form_Load();
+  untouched.Form_QueryUnload();
+  EXPECT_EQ(dialogs.messages.size(), 2U);
+}
+
 TEST_F(ProjectData, CancelOfANewProjectEndsIt) {
   for (const bool is_new : {false, true}) {
     project.NewProjectFlag = is_new ? 1 : 0;

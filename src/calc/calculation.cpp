@@ -19,6 +19,7 @@
 #include "calc/remote_heads.h"
 #include "calc/result_tables.h"
 #include "calc/sizing_form.h"
+#include "calc/source_duty.h"
 #include "calc/supply_curve.h"
 #include "model/model_state.h"
 #include "project/undo_history.h"
@@ -42,6 +43,9 @@ class CalculationCommand {
   void Setup();
   bool CanCalculate();
   bool AskOptions();
+  template <class OptionsForm>
+  bool Accepts();
+  void RenewDemand();
   bool Balance();
   void StoreRun(const BalanceRun& run);
   void ShowResults();
@@ -109,26 +113,40 @@ bool CalculationCommand::CanCalculate() {
 
 // What is chosen in the dialog takes part in this calculation.
 bool CalculationCommand::AskOptions() {
-  Shell& shell = session_.platform.shell;
-  bool accepted = false;
+  const std::string supply = ItemText(project_, Item::kSupply);
+  const std::string comments = ItemText(project_, Item::kComments);
+  const bool sizes = project_.UnsizedCount > 0;
   stages_.Enter(CalculationStage::kShowBox);
-  if (project_.UnsizedCount > 0) {
-    SizingForm form(session_);
-    shell.ShowModal(form);
-    accepted = form.Accepted();
-  } else {
-    CalcOptionsForm form(session_);
-    shell.ShowModal(form);
-    accepted = form.Accepted();
-  }
-  shell.Yield();
+  const bool accepted = sizes ? Accepts<SizingForm>() : Accepts<CalcOptionsForm>();
+  session_.platform.shell.Yield();
   // Reading the project again for new sizes can end with the user stopping it.
   if (!accepted || project_.CalcCancelled != 0 || project_.ModelState != model_state::kChecked) {
     return false;
   }
   ReadFluidSettings(project_);
   SelectSupply(project_);
+  const bool same_demand = !sizes && supply == ItemText(project_, Item::kSupply) &&
+                           comments == ItemText(project_, Item::kComments);
+  if (!same_demand && project_.PumpCurveIndex != 0) RenewDemand();
   return true;
+}
+
+template <class OptionsForm>
+bool CalculationCommand::Accepts() {
+  OptionsForm form(session_);
+  session_.platform.shell.ShowModal(form);
+  return form.Accepted();
+}
+
+// The demand that the summary tells beside the supply is worked out before the dialog, where it may
+// have been without a supply, or with other sizes and settings.
+void CalculationCommand::RenewDemand() {
+  SilentDemand(session_);
+  if (project_.UnsizedCount > 0) {
+    session_.platform.commands.CheckProject(CheckMode::kSilent);
+    project_.SizedCount = 0;
+  }
+  Setup();
 }
 
 bool CalculationCommand::Balance() {

@@ -9,9 +9,10 @@
 namespace zeb {
 namespace {
 
-// A check that was stopped or failed is made again, as a part of a network must not pass for it.
+// A check that was stopped or failed is made again, as a part of a network must not pass for it,
+// and so is one whose pipe data were exchanged.
 bool HasWholeNetwork(Session& session) {
-  if (session.project.CheckBroken == 0) return true;
+  if (session.project.CheckBroken == 0 && session.project.PipeSizeCount > 0) return true;
   session.platform.commands.CheckProject(CheckMode::kKeepLines);
   return session.project.CheckBroken == 0;
 }
@@ -23,7 +24,6 @@ void PrepareHeads(Session& session) {
     session.platform.shell.SetPanel(Panel::kMode, "CALCULATE");
     return;
   }
-  ReadIfNoSizes(session);
   project.ModelState = model_state::kChecked;
   PickAllHeads(session);
 }

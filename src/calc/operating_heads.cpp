@@ -41,6 +41,13 @@ void ShowPickPrompt(Session& session) {
   ShowPrompt(session, PickText(session.project) + ": Select heads - press F12 to calculate");
 }
 
+// Reads and checks the project when the pipe data are not loaded.
+void ReadIfNoSizes(Session& session) {
+  if (session.project.PipeSizeCount == 0) {
+    session.platform.commands.CheckProject(CheckMode::kKeepLines);
+  }
+}
+
 // The results that stand belong to other heads.
 void BeginPick(Session& session) {
   ReadIfNoSizes(session);
@@ -77,12 +84,6 @@ void BeginNewPick(Session& session, int command) {
 }
 
 }  // namespace
-
-void ReadIfNoSizes(Session& session) {
-  if (session.project.PipeSizeCount == 0) {
-    session.platform.commands.CheckProject(CheckMode::kKeepLines);
-  }
-}
 
 void Cind(Session& session) {
   BeginNewPick(session, kPickHeadCommand);

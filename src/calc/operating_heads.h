@@ -30,7 +30,4 @@ std::vector<int> PickHeadsByNodes(Session& session, const std::vector<int>& node
 // Lets all heads operate.
 void PickAllHeads(Session& session);
 
-// Reads and checks the project when the pipe data are not loaded.
-void ReadIfNoSizes(Session& session);
-
 }  // namespace zeb

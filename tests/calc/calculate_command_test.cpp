@@ -95,6 +95,10 @@ TEST_F(CalculateCommand, UsesAllHeadsUnlessSomeArePicked) {
   PickHeadsByNodes(session, {12});
   Ccall(session);
   EXPECT_EQ(seen, "2 ");
+  EXPECT_TRUE(commands.checks.empty());
+  project.PipeSizeCount = 0;  // as other pipe data were chosen
+  Ccall(session);
+  EXPECT_EQ(commands.checks, std::vector{CheckMode::kKeepLines});
   Cind(session);  // nothing picked is as good as all
   Ccall(session);
   EXPECT_EQ(seen, "1 2 3 ");

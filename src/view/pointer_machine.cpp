@@ -107,7 +107,9 @@ void PointerMachine::FollowPress(Point at) {
 
 void PointerMachine::LeaveMode(const char* procedure) {
   Run(procedure, {}, &PointerMode::leave);
+  if (session_.project.CommandMode == pointer_mode::kView) return;
   session_.project.CommandMode = pointer_mode::kView;
+  session_.platform.shell.SetPanel(Panel::kMode, "VIEW");
 }
 
 void PointerMachine::ShowDisplayMenu() {

@@ -101,6 +101,7 @@ TEST_F(PointerTest, TheRightButtonGoesBackToViewAndOffersTheTexts) {
   for (int press = 0; press < 2; ++press) {  // the second picks nothing
     pointer_.pic1_MouseDown(MouseButton::kRight, {250, 210});
     EXPECT_EQ(project_.CommandMode, 7);
+    EXPECT_EQ(shell_.panels[Panel::kMode], "VIEW");
     EXPECT_EQ(project_.PickedPipe, 1);
     EXPECT_EQ(project_.DisplayItem, 5);
     EXPECT_EQ(shell_.redraws, 1);

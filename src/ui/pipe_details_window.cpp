@@ -9,7 +9,7 @@
 namespace zeb {
 namespace {
 
-constexpr int kColumns = 42;
+constexpr int kColumns = 46;
 constexpr int kLines = 26;
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QDropEvent>
 #include <QMimeData>
+#include <QScopeGuard>
 #include <utility>
 
 #include "lifecycle/closedown.h"
@@ -154,10 +155,12 @@ void MainWindow::Redraw() {
   if (drawing_) return;
   drawing_ = true;
   picture_->setUpdatesEnabled(false);
+  const auto finish = qScopeGuard([this] {
+    drawing_ = false;
+    picture_->setUpdatesEnabled(true);
+    picture_->update();
+  });
   while (std::exchange(stale_, false)) DrawView(session_, picture_->Surface());
-  picture_->setUpdatesEnabled(true);
-  drawing_ = false;
-  picture_->update();
 }
 
 void MainWindow::SetBusyPointer(bool busy) {

@@ -20,6 +20,9 @@ constexpr std::array<const char*, 7> kTips{"",
                                            "their boxes.",
                                            "Green when the project is saved"};
 
+// What the panel is for: its tip while it has no other.
+QString TipOf(Panel panel) { return kTips.at(static_cast<std::size_t>(panel) - 1); }
+
 // A long hint must not make the window wider; it is cut and stands whole in its tip.
 class HintLabel final : public QLabel {
  public:
@@ -47,7 +50,7 @@ StatusPanels::StatusPanels(QWidget* parent) : QStatusBar(parent) {
     const bool is_hint = index == 0;
     QLabel* label = is_hint ? new HintLabel(this) : new QLabel(this);
     label->setObjectName(QStringLiteral("panel%1").arg(index + 1));
-    label->setToolTip(kTips.at(static_cast<std::size_t>(index)));
+    label->setToolTip(TipOf(static_cast<Panel>(index + 1)));
     label->setTextFormat(Qt::PlainText);
     label->installEventFilter(this);
     addPermanentWidget(label, is_hint ? 1 : 0);
@@ -67,7 +70,7 @@ void StatusPanels::SetText(Panel panel, const std::string& text) {
 }
 
 void StatusPanels::SetTip(Panel panel, const std::string& text) {
-  LabelOf(panel).setToolTip(ShownText(text));
+  LabelOf(panel).setToolTip(text.empty() ? TipOf(panel) : ShownText(text));
 }
 
 void StatusPanels::SetPicture(Panel panel, std::string_view picture) {

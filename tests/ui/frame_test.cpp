@@ -29,6 +29,8 @@ TEST_F(FrameTest, ShowsPanelsByTheirNumbers) {
   EXPECT_EQ(Child<QLabel>(window, "panel6").text(), "Err #: 3 [ON]");
   EXPECT_EQ(Child<QLabel>(window, "panel6").toolTip(), "3 Errors found on last check ");
   EXPECT_EQ(Child<QLabel>(window, "panel7").property("picture").toString(), "disk_save_BW");
+  shell.SetPanelTip(Panel::kErrors, "");
+  EXPECT_TRUE(Child<QLabel>(window, "panel6").toolTip().contains("click")) << "what it is for";
 }
 
 TEST_F(FrameTest, StretchesThePictureFromCornerToCorner) {

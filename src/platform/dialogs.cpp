@@ -31,11 +31,13 @@ Answer DefaultAnswer(const Message& message) {
   return index < answers.size() ? answers[index] : answers.front();
 }
 
-bool UserAgrees(Dialogs& dialogs, const std::string& title, const std::string& text) {
+bool UserAgrees(Dialogs& dialogs, const std::string& title, const std::string& text,
+                int default_button) {
   return dialogs.Show({.title = title,
                        .text = text,
                        .icon = MessageIcon::kQuestion,
-                       .buttons = MessageButtons::kYesNo}) == Answer::kYes;
+                       .buttons = MessageButtons::kYesNo,
+                       .default_button = default_button}) == Answer::kYes;
 }
 
 }  // namespace zeb

@@ -49,7 +49,8 @@ class Dialogs {
   virtual std::string SaveFile(const FileDialog& dialog) = 0;
 };
 
-// Asks a question with Yes and No.
-[[nodiscard]] bool UserAgrees(Dialogs& dialogs, const std::string& title, const std::string& text);
+// Asks a question with Yes and No, of which button 1 or 2 is the default.
+[[nodiscard]] bool UserAgrees(Dialogs& dialogs, const std::string& title, const std::string& text,
+                              int default_button = 1);
 
 }  // namespace zeb

@@ -7,13 +7,11 @@ namespace zeb {
 namespace {
 
 bool UserTakes(Dialogs& dialogs, const std::string& name, const std::string& match) {
-  return dialogs.Show({.title = name,
-                       .text = "Several files differ from this name only in upper and lower case. "
-                               "Do you want to use " +
-                               match + "?",
-                       .icon = MessageIcon::kQuestion,
-                       .buttons = MessageButtons::kYesNo,
-                       .default_button = 2}) == Answer::kYes;
+  return UserAgrees(dialogs, name,
+                    "Several files differ from this name only in upper and lower case. Do you want "
+                    "to use " +
+                        match + "?",
+                    2);
 }
 
 }  // namespace

@@ -3,19 +3,12 @@
 #include "calc/calc_summary.h"
 #include "calc/calculation.h"
 #include "calc/source_duty.h"
+#include "calc/whole_network.h"
 #include "model/model_state.h"
 #include "services/text.h"
 
 namespace zeb {
 namespace {
-
-// A check that was stopped or failed is made again, as a part of a network must not pass for it,
-// and so is one whose pipe data were exchanged.
-bool HasWholeNetwork(Session& session) {
-  if (session.project.CheckBroken == 0 && session.project.PipeSizeCount > 0) return true;
-  session.platform.commands.CheckProject(CheckMode::kKeepLines);
-  return session.project.CheckBroken == 0;
-}
 
 void PrepareHeads(Session& session) {
   Project& project = session.project;
@@ -31,7 +24,7 @@ void PrepareHeads(Session& session) {
 }  // namespace
 
 bool Ccall(Session& session) {
-  if (!HasWholeNetwork(session)) return false;
+  if (!TakeWholeNetwork(session)) return false;
   Project& project = session.project;
   project.CalcSource = 1;
   project.HeadDensityEdited = 0;

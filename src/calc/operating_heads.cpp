@@ -4,6 +4,7 @@
 #include <string>
 
 #include "calc/flow_paths.h"
+#include "calc/whole_network.h"
 #include "model/model_state.h"
 #include "services/number_text.h"
 
@@ -41,16 +42,8 @@ void ShowPickPrompt(Session& session) {
   ShowPrompt(session, PickText(session.project) + ": Select heads - press F12 to calculate");
 }
 
-// Reads and checks the project when the pipe data are not loaded.
-void ReadIfNoSizes(Session& session) {
-  if (session.project.PipeSizeCount == 0) {
-    session.platform.commands.CheckProject(CheckMode::kKeepLines);
-  }
-}
-
 // The results that stand belong to other heads.
 void BeginPick(Session& session) {
-  ReadIfNoSizes(session);
   session.platform.commands.ViewCommandReset();
   Project& project = session.project;
   project.SelectedHeadsMode = 1;
@@ -76,23 +69,25 @@ void SetPointerCommand(Session& session, int command) {
   session.platform.shell.SetPanel(Panel::kMode, "OPERATING HEADS");
 }
 
-void BeginNewPick(Session& session, int command) {
+// False when there is no network to pick from.
+bool BeginNewPick(Session& session, int command) {
+  if (!TakeWholeNetwork(session)) return false;
   BeginPick(session);
   ClearPick(session.project);
   session.platform.shell.Redraw();
   SetPointerCommand(session, command);
+  return true;
 }
 
 }  // namespace
 
 void Cind(Session& session) {
-  BeginNewPick(session, kPickHeadCommand);
-  ShowPickPrompt(session);
+  if (BeginNewPick(session, kPickHeadCommand)) ShowPickPrompt(session);
 }
 
 void Cboxes(Session& session) {
-  BeginNewPick(session, kHeadBoxCommand);
-  ShowPrompt(session, "Select head group - press F12 to calculate");
+  if (BeginNewPick(session, kHeadBoxCommand))
+    ShowPrompt(session, "Select head group - press F12 to calculate");
 }
 
 void Ccurr(Session& session) {
@@ -102,6 +97,7 @@ void Ccurr(Session& session) {
                                    .icon = MessageIcon::kInformation});
     return;
   }
+  if (!TakeWholeNetwork(session)) return;
   BeginPick(session);
   session.platform.shell.Redraw();
   SetPointerCommand(session, kPickHeadCommand);

@@ -248,6 +248,8 @@ TEST_F(FaultyProjectTest, IsNotCalculatedInPartWhenTheCheckIsStopped) {
   Pick("Ccall");
   EXPECT_EQ(user.shown, QStringList({"ZEBF04", "ZEBF02"}));
   EXPECT_EQ(TheProject().ModelState, model_state::kRead);
+  Pick("Cind");
+  EXPECT_EQ(TheProject().SelectedHeadsMode, 0) << "nor are heads picked in it";
 }
 
 TEST_F(DesktopTest, PicksHeadsByABox) {

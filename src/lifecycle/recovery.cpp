@@ -10,7 +10,6 @@
 #include "project/project_writer.h"
 #include "services/dates.h"
 #include "services/file_writing.h"
-#include "services/number_text.h"
 #include "services/paths.h"
 #include "services/project_paths.h"
 #include "services/text.h"
@@ -18,8 +17,9 @@
 namespace zeb {
 namespace {
 
-void Mix(std::size_t& hash, const std::string& text) {
-  hash = hash * 31 + std::hash<std::string>{}(text);
+template <class Value>
+void Mix(std::size_t& hash, const Value& value) {
+  hash = hash * 31 + std::hash<Value>{}(value);
 }
 
 // The path of a project that was never saved.
@@ -53,7 +53,7 @@ std::size_t Recovery::Supplies() const {
   std::size_t hash = 17;
   for (int row = 1; row <= project.SupplyCount; ++row) {
     Mix(hash, project.SupplyNames[row]);
-    for (const float value : project.SupplyTable[row]) Mix(hash, PlainText(value));
+    for (const float value : project.SupplyTable[row]) Mix(hash, value);
   }
   return hash;
 }

@@ -143,13 +143,6 @@ void checkCommandLine(Session& session) {
   if (!session.CommandFile.empty()) OpenProject(session, session.CommandFile);
 }
 
-bool HasReportingTools(Session& session) {
-  const std::string folder = AddBackSlash(session.folders.Program) + "reporter/";
-  FileSystem& files = session.platform.files;
-  return files.FileExists(folder + "ZEB Report Viewer.exe") &&
-         files.FileExists(folder + "ZEB Data Analysis.exe");
-}
-
 void StartWithoutWindow(Session& session) {
   session.AutoSave = false;
   session.Backups = false;

@@ -35,9 +35,6 @@ void StartUpfrm(Session& session);
 // Opens the project that the program was started with.
 void checkCommandLine(Session& session);
 
-// Whether the separate tools for report data are installed.
-[[nodiscard]] bool HasReportingTools(Session& session);
-
 // The start of a program without a window: a cleared model with its limits, and the folders as they
 // were installed. It has no settings, no session file and no automatic saving, and makes no
 // backups. The design authorities are still to be read.

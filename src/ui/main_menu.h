@@ -30,7 +30,6 @@ struct MenuCommand {
   std::vector<Feature> features = {};
   std::function<bool(const Session&)> is_enabled = {};  // a further condition
   std::function<bool(const Session&)> is_ticked = {};   // for a command that is on or off
-  std::function<bool(Session&)> is_shown = {};          // for a tool that may not be installed
 };
 
 struct MenuTitle {

@@ -59,7 +59,6 @@ void MenuBuilder::AddCommand(QMenu& menu, const MenuTitle& title, const MenuComm
   if (!command.icon.empty()) action->setIcon(ProgramIcon(Text(command.icon)));
   action->setWhatsThis(Text(command.tip));
   action->setToolTip(ToolTip(*action));
-  if (command.is_shown) action->setVisible(command.is_shown(session_));
   if (command.is_ticked) {
     action->setCheckable(true);
     ticks_.push_back({action, &command});

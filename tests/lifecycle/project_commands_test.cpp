@@ -32,8 +32,6 @@ struct ProjectCommands : testing::Test, TestSession {
     project.DataChanged = 1;
     dialogs.messages.clear();
   }
-
-  Project& project = session.project;
 };
 
 TEST_F(ProjectCommands, NewStartsFromTheLibrary) {

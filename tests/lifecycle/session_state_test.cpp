@@ -40,8 +40,6 @@ struct SessionState : testing::Test, TestSession {
     files.Put(kFile, FileText(lines));
     ReadInZEBLast(session);
   }
-
-  Project& project = session.project;
 };
 
 TEST_F(SessionState, WhatIsWrittenWasRead) {
